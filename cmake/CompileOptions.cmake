@@ -1,0 +1,12 @@
+# What every target of the project is compiled with.
+add_library(vexa_options INTERFACE)
+
+# Results are exact to the last bit: no fused multiply-add, no reordering.
+target_compile_options(vexa_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -ffp-contract=off)
+
+if(VEXA_SANITIZE)
+  target_compile_options(vexa_options INTERFACE
+    -fsanitize=${VEXA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(vexa_options INTERFACE -fsanitize=${VEXA_SANITIZE})
+endif()

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "engine/CalcModes.h"
+#include "engine/Keywords.h"
+#include "engine/TokenList.h"
+
+namespace vexa {
+
+/// Evaluates one expression. The text is cut once into a flat array of records, and everything
+/// after that (syntax check, reduction, extraction of the result) works in place on the array.
+///
+/// Set `angleMode` and `baseMode`, call EvaluateExpression or LoadTokens and EvaluateTokens, then
+/// read `errorText` (empty: success) and `result`. Nothing is thrown; the first error wins.
+class CalcEngine : public TokenList {
+ public:
+  /// Unit of the trigonometric functions.
+  AngleType angleMode = AngleType::Degrees;
+  /// Base of the expression: chooses tokenizer, syntax rules and operators. A value outside the
+  /// enum is read with the decimal tokenizer and reduced as an integer base.
+  BaseType baseMode = BaseType::Dec;
+  /// Value of the last successful evaluation; 0.0 after a failure.
+  double result = 0.0;
+  /// Function names and codes, the same for every engine object.
+  static constexpr const std::array<Keyword, 16>& keywords = kKeywords;
+
+  /// Evaluates `expression` (any case) in the current angle mode and base.
+  void EvaluateExpression(std::wstring_view expression);
+
+  /// Copies `records` (at most kMaxTokens + 1) into the engine and clears all others.
+  void LoadTokens(std::span<const Token> records);
+
+  /// Evaluates the records that the caller has put into `tokens` and `tokenCount`, with the decimal
+  /// syntax rules. Consumes the records.
+  void EvaluateTokens();
+
+  /// Cuts a lower-case decimal `expression` into records, or reports an error.
+  void TokenizeDecimal(std::wstring_view expression);
+
+ private:
+  void TokenizeBase(std::wstring_view expression);
+  void CheckDecimalSyntax();
+  void CheckBaseSyntax();
+  void Reduce();
+  void ReduceRange(int lo, int hi);
+  void ReduceDecimalRange(int lo, int hi);
+  void ReduceBaseRange(int lo, int hi);
+  void ApplySigns(int lo, int hi);
+  void ApplyFactorials(int lo, int hi);
+  void ApplyCombinatorics(int lo, int hi);
+  void ApplyPowers(int lo, int hi);
+  void ApplyFunctions(int lo, int hi);
+  void ApplyComplements(int lo, int hi);
+  void ExtractResult();
+
+  /// Index of the ")" whose "(" is preceded by a function; 0: none.
+  int pendingFunctionClose = 0;
+};
+
+}  // namespace vexa

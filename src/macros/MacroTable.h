@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "display/SettingsStore.h"
+#include "engine/ExprParser.h"
+
+namespace vexa {
+
+/// Macros that can be kept.
+inline constexpr int kMaxMacros = 60;
+
+/// An argument type of macros: the stored text, the variables of its formula, and what lists show
+/// behind a name.
+struct MacroType {
+  std::wstring_view storedText;
+  FormulaType formulaType;
+  std::wstring_view listSuffix;
+};
+
+/// The argument types in the order in which the editor offers them.
+inline constexpr std::array<MacroType, 3> kMacroTypes{{
+    {L"TYPE1 : F(X)", FormulaType::X, L"(X)"},
+    {L"TYPE2 : F(X,Y)", FormulaType::XY, L"(X,Y)"},
+    {L"TYPE3 : F(X,Y,Z)", FormulaType::XYZ, L"(X,Y,Z)"},
+}};
+
+/// The type with this stored text; any text that is not in the table counts as the last type.
+const MacroType& MacroTypeOf(std::wstring_view storedText);
+
+/// A macro as tables hold it. The formula stays in the store.
+struct Macro {
+  std::wstring name;
+  std::wstring type;
+};
+
+/// The stored macros' names and types, in order. Every change is written to the store at once.
+class MacroTable {
+ public:
+  /// Works on `store`, which must outlive the table. Empty until LoadMacroTable.
+  explicit MacroTable(SettingsStore& store) : store(store) {}
+
+  /// Reads names and types; a count outside 0 to kMaxMacros is clamped.
+  void LoadMacroTable();
+  /// The stored formula of macro `index`.
+  std::wstring ReadFormula(int index) const;
+  /// Appends a macro. The caller has validated it and that Count() is below kMaxMacros.
+  void AddMacro(std::wstring_view name, std::wstring_view type, std::wstring_view formula);
+  /// Rewrites macro `index` in place.
+  void ReplaceMacro(int index, std::wstring_view name, std::wstring_view type,
+                    std::wstring_view formula);
+  /// Removes macro `index`; the ones behind it move down, and the last stored section is emptied.
+  void DeleteMacro(int index);
+
+  int Count() const { return static_cast<int>(macros.size()); }
+  const Macro& At(int index) const { return macros[static_cast<std::size_t>(index)]; }
+  /// Index of the first macro with exactly this name.
+  std::optional<int> Find(std::wstring_view name) const;
+
+ private:
+  void WriteMacro(int index, const Macro& macro, std::wstring_view formula);
+
+  SettingsStore& store;
+  std::vector<Macro> macros;
+};
+
+}  // namespace vexa
