@@ -41,8 +41,10 @@ std::int64_t Ordered(double value) {
 
 }  // namespace
 
+std::string VectorPath(const std::string& name) { return VEXA_VECTORS "/" + name; }
+
 std::vector<std::vector<std::string>> ReadTable(const std::string& name) {
-  std::ifstream file(std::string(VEXA_VECTORS "/") + name);
+  std::ifstream file(VectorPath(name));
   if (!file) throw std::runtime_error("cannot open " + name);
   std::vector<std::vector<std::string>> rows;
   std::string line;

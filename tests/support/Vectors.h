@@ -7,6 +7,9 @@
 
 namespace vexa::test {
 
+/// The path of tests/vectors/`name`.
+std::string VectorPath(const std::string& name);
+
 /// The rows of tests/vectors/`name`, a tab-separated file, without its header line. Escapes are
 /// undone.
 std::vector<std::vector<std::string>> ReadTable(const std::string& name);
