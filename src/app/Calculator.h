@@ -14,24 +14,25 @@ namespace vexa {
 /// The scientific calculator without its window: settings, answer, history and the "=" command.
 class Calculator {
  public:
-  /// Reads the settings, the macro table and the history. `store` must outlive the calculator.
-  explicit Calculator(SettingsStore& store);
+  /// Reads the settings, the macro table and the history. `settingsStore` must outlive the
+  /// calculator.
+  explicit Calculator(SettingsStore& settingsStore);
   /// Writes the settings and the history back.
   void Save() const;
 
-  /// The "=" command on the edit line's text as it stands. Returns the text for the result line:
-  /// the formatted answer, or the sentence of what went wrong.
-  std::wstring Evaluate(std::wstring_view editText);
-  /// Makes `target` the current base and returns the answer's text in it. A code outside the enum
-  /// counts as decimal.
-  std::wstring SetBase(BaseType target);
+  /// The "=" command on the edit line's text as it stands: shows the formatted answer on the result
+  /// line, or the sentence of what went wrong.
+  void Evaluate(std::wstring_view editText);
+  /// Makes `target` the current base and shows the answer in it. Nothing changes when it is
+  /// current already.
+  void SetBase(BaseType target);
   /// Switches between degrees and radians.
   void ToggleAngle();
-  /// The answer as the result line shows it.
-  std::wstring AnswerText();
   /// What recalling history entry `index` (1 is the oldest) inserts into the edit line.
   std::wstring RecallHistory(int index);
 
+  /// The result line's text.
+  std::wstring resultLine = L"0";
   /// The sentence of the last "=" that failed; empty after a success.
   std::wstring lastError;
   /// The last successful result; 0 after a failure.
@@ -46,6 +47,9 @@ class Calculator {
   History history;
 
  private:
+  void ShowAnswer();
+  void ShowError(std::wstring_view sentence);
+
   SettingsStore& store;
 };
 

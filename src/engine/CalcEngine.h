@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/BinaryOperators.h"
 #include "engine/CalcModes.h"
 #include "engine/Keywords.h"
 #include "engine/TokenList.h"
@@ -42,20 +43,36 @@ class CalcEngine : public TokenList {
   void TokenizeDecimal(std::wstring_view expression);
 
  private:
-  void TokenizeBase(std::wstring_view expression);
-  void CheckDecimalSyntax();
-  void CheckBaseSyntax();
+  Token& At(int index) { return tokens[static_cast<std::size_t>(index)]; }
+  const Token& At(int index) const { return tokens[static_cast<std::size_t>(index)]; }
+
+  // Reduction: parentheses from the inside out, then the whole expression. A range is the records
+  // from `lo` to `hi` - 1.
   void Reduce();
   void ReduceRange(int lo, int hi);
   void ReduceDecimalRange(int lo, int hi);
   void ReduceBaseRange(int lo, int hi);
+  /// Signs, factorials, nCr and nPr, powers.
+  void ApplyPrefixesAndPowers(int lo, int hi);
   void ApplySigns(int lo, int hi);
   void ApplyFactorials(int lo, int hi);
   void ApplyCombinatorics(int lo, int hi);
   void ApplyPowers(int lo, int hi);
+  /// Applies the functions from `lo` to `hi` inclusive to the first live operand behind each.
   void ApplyFunctions(int lo, int hi);
+  /// NOT, in the integer bases.
   void ApplyComplements(int lo, int hi);
+  /// The binary operators of `pass`, from left to right.
+  void ApplyPass(const OperatorPass& pass, int lo, int hi);
   void ExtractResult();
+
+  /// Index of the nearest live operand at or before `index`, across parentheses; -1: none.
+  int OperandBefore(int index) const;
+  /// Index of the nearest live operand behind `index`. Where none is left, `tokenCount`, whose
+  /// cleared record stands in with the value 0.
+  int OperandAfter(int index) const;
+  /// Whether the "+" or "-" at `index` has no left operand.
+  bool IsSign(int index) const;
 
   /// Index of the ")" whose "(" is preceded by a function; 0: none.
   int pendingFunctionClose = 0;

@@ -26,9 +26,8 @@ class ExprParser : public TokenList {
   void Validate(std::wstring_view formula);
 
  private:
-  void Tokenize(std::wstring_view formula);
+  /// Reports the first variable of the formula's type that the formula does not use.
   void CheckVariables();
-  void CheckSyntax();
 };
 
 }  // namespace vexa

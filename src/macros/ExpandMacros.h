@@ -18,7 +18,6 @@ struct MacroExpansion {
   /// was a single call, whose value is `lastResult` at full precision.
   std::wstring lastMacroText;
   double lastResult = 0.0;
-  std::wstring lastEngineError;
 };
 
 /// Replaces the calls "M:" name "(" arguments ")" in `expression`, from left to right, stopping at

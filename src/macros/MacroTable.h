@@ -41,8 +41,8 @@ struct Macro {
 /// The stored macros' names and types, in order. Every change is written to the store at once.
 class MacroTable {
  public:
-  /// Works on `store`, which must outlive the table. Empty until LoadMacroTable.
-  explicit MacroTable(SettingsStore& store) : store(store) {}
+  /// Works on `settingsStore`, which must outlive the table. Empty until LoadMacroTable.
+  explicit MacroTable(SettingsStore& settingsStore) : store(settingsStore) {}
 
   /// Reads names and types; a count outside 0 to kMaxMacros is clamped.
   void LoadMacroTable();

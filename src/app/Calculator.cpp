@@ -1,0 +1,111 @@
+#include "app/Calculator.h"
+
+#include <algorithm>
+
+#include "display/FormatResult.h"
+#include "display/SettingsLayout.h"
+#include "engine/CalcEngine.h"
+#include "macros/ExpandMacros.h"
+
+namespace vexa {
+namespace {
+
+// An empty line's result line and error text differ; meant.
+constexpr std::wstring_view kNoExpression = L"There is no expression.";
+constexpr std::wstring_view kNullExpression = L"Expression is null.";
+
+std::wstring_view Trimmed(std::wstring_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
+  text.remove_suffix(text.size() - (text.find_last_not_of(L' ') + 1));
+  return text;
+}
+
+/// A stored base outside the four is decimal.
+BaseType ValidBase(int stored) {
+  return stored >= static_cast<int>(BaseType::Dec) && stored <= static_cast<int>(BaseType::Oct)
+             ? static_cast<BaseType>(stored)
+             : BaseType::Dec;
+}
+
+}  // namespace
+
+Calculator::Calculator(SettingsStore& settingsStore) : macros(settingsStore), store(settingsStore) {
+  angleType = static_cast<AngleType>(Read(store, settings::kAngleType));
+  classPos = Read(store, settings::kClassPos);
+  inputTypePos = Read(store, settings::kInputTypePos);
+  outputTypePos = Read(store, settings::kOutputTypePos);
+  displayType = static_cast<DisplayType>(Read(store, settings::kDisplayType));
+  precision = Read(store, settings::kPrecision);
+  macros.LoadMacroTable();
+  history.Load(store);
+  baseType = ValidBase(Read(store, settings::kBaseType));
+}
+
+void Calculator::Save() const {
+  Write(store, settings::kAngleType, static_cast<int>(angleType));
+  Write(store, settings::kBaseType, static_cast<int>(baseType));
+  Write(store, settings::kDisplayType, static_cast<int>(displayType));
+  Write(store, settings::kPrecision, precision);
+  Write(store, settings::kClassPos, classPos);
+  Write(store, settings::kInputTypePos, inputTypePos);
+  Write(store, settings::kOutputTypePos, outputTypePos);
+  history.Save(store);
+}
+
+void Calculator::Evaluate(std::wstring_view editText) {
+  lastError.clear();
+  answer = 0.0;
+  const std::wstring_view expression = Trimmed(editText);
+  if (expression.empty()) {
+    lastError = kNoExpression;
+    resultLine = kNullExpression;
+    return;
+  }
+  const MacroExpansion expansion = ExpandMacros(expression, macros, angleType, baseType);
+  if (!expansion.error.empty()) return ShowError(expansion.error);
+
+  double value = expansion.lastResult;
+  // A single macro call keeps the full precision of the macro's own evaluation.
+  if (expansion.expression != expansion.lastMacroText) {
+    CalcEngine engine;
+    engine.angleMode = angleType;
+    engine.baseMode = baseType;
+    engine.EvaluateExpression(expansion.expression);
+    if (!engine.errorText.empty()) {
+      history.AddHistory(editText);
+      return ShowError(engine.errorText);
+    }
+    value = engine.result;
+  }
+  answer = value;
+  ShowAnswer();
+  if (history.IsEmpty() || history.At(history.Count()) != editText) {
+    history.AddHistory(ResultEntry(baseType, resultLine));
+    history.AddHistory(editText);
+  }
+}
+
+void Calculator::SetBase(BaseType target) {
+  if (target == baseType) return;
+  baseType = target;
+  ShowAnswer();
+}
+
+void Calculator::ToggleAngle() {
+  angleType = angleType == AngleType::Degrees ? AngleType::Radians : AngleType::Degrees;
+}
+
+void Calculator::ShowAnswer() {
+  resultLine = FormatResult(answer, displayType, precision, baseType, lastError);
+}
+
+void Calculator::ShowError(std::wstring_view sentence) {
+  lastError = sentence;
+  resultLine = sentence;
+}
+
+std::wstring Calculator::RecallHistory(int index) {
+  return RecallText(history.At(index), baseType, precision, lastError);
+}
+
+}  // namespace vexa

@@ -1,0 +1,99 @@
+#include "engine/Tokenizer.h"
+
+namespace vexa {
+namespace {
+
+bool IsLetter(wchar_t c) { return c >= L'a' && c <= L'z'; }
+bool IsShift(wchar_t c) { return c == L'<' || c == L'>'; }
+
+/// Length of the run of characters at the front of `text` for which `belongs` holds.
+template <typename Predicate>
+std::size_t RunLength(std::wstring_view text, Predicate belongs) {
+  std::size_t length = 0;
+  while (length < text.size() && belongs(text[length])) ++length;
+  return length;
+}
+
+Token MarkRecord(wchar_t op, TokenKind kind) {
+  return {.op = static_cast<signed char>(op), .kind = kind};
+}
+
+const Word* FindWord(std::wstring_view text, const Dialect& dialect) {
+  for (const std::span<const Word>& words : {dialect.words, dialect.variables}) {
+    for (const Word& word : words) {
+      if (word.text == text) return &word;
+    }
+  }
+  return nullptr;
+}
+
+/// Reads the front of `text` as one token. Returns its length and appends its record, or reports an
+/// error.
+struct TokenReader {
+  const Dialect& dialect;
+  TokenList& list;
+
+  std::size_t Read(std::wstring_view text) {
+    const wchar_t c = text.front();
+    if (c == L' ') return 1;
+    Token number;
+    const std::size_t numberLength = dialect.readNumber(text, number, list);
+    if (list.errorFlag == 1) return 0;
+    if (numberLength > 0) return Append(number, numberLength);
+    if (dialect.operators.find(c) != std::wstring_view::npos) {
+      return Append(MarkRecord(c, kOperatorKind), 1);
+    }
+    if (c == L'(' || c == L')') return Append(MarkRecord(c, kParenthesisKind), 1);
+    if (IsShift(c)) return ReadShift(text.substr(0, RunLength(text, IsShift)));
+    if (IsLetter(c)) {
+      const std::size_t length = RunLength(text, IsLetter);
+      return ReadWord(text.substr(0, length), length == text.size());
+    }
+    return Refuse(ErrorCode::NotSupported, text.substr(0, 1));
+  }
+
+  std::size_t ReadShift(std::wstring_view run) {
+    if (run != L"<<" && run != L">>") return Refuse(ErrorCode::NotSupported, run);
+    return Append(MarkRecord(run.front(), kOperatorKind), run.size());
+  }
+
+  std::size_t ReadWord(std::wstring_view text, bool endsExpression) {
+    const Word* const word = FindWord(text, dialect);
+    if (!word) return Refuse(ErrorCode::NotSupported, text);
+    if (!word->refusal.empty()) return Refuse(ErrorCode::Message, word->refusal);
+    Append(word->token, text.size());
+    if (word->token.kind == kFunctionKind && endsExpression) {
+      return Refuse(ErrorCode::NeedsArgument, text);
+    }
+    return text.size();
+  }
+
+  std::size_t Append(const Token& token, std::size_t length) {
+    list.tokens[static_cast<std::size_t>(list.tokenCount)] = token;
+    ++list.tokenCount;
+    return length;
+  }
+
+  std::size_t Refuse(ErrorCode code, std::wstring_view argument) {
+    list.ReportError(code, argument);
+    return 0;
+  }
+};
+
+}  // namespace
+
+void Tokenize(std::wstring_view text, const Dialect& dialect, TokenList& list) {
+  TokenReader reader{dialect, list};
+  while (!text.empty()) {
+    // Tested before a blank too, so trailing blanks behind a full array are refused as well.
+    if (list.tokenCount > kMaxTokens) {
+      list.ReportError(ErrorCode::LengthLimit);
+      return;
+    }
+    const std::size_t length = reader.Read(text);
+    if (list.errorFlag == 1) return;
+    text.remove_prefix(length);
+  }
+}
+
+}  // namespace vexa

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+#include "engine/Token.h"
+#include "engine/TokenList.h"
+
+namespace vexa {
+
+/// A word of an expression and the record it becomes.
+struct Word {
+  std::wstring_view text;
+  Token token;
+  /// The sentence with which the word is refused; empty: it is accepted.
+  std::wstring_view refusal = {};
+};
+
+/// What a kind of expression is made of, besides blanks, parentheses, "<<" and ">>", which every
+/// kind has.
+struct Dialect {
+  /// Operators of one character.
+  std::wstring_view operators;
+  std::span<const Word> words;
+  /// Further words: a formula's variables.
+  std::span<const Word> variables;
+  /// Reads the number at the front of a text into the token and returns its length; 0 when no
+  /// number stands there or an error was reported.
+  std::size_t (*readNumber)(std::wstring_view text, Token& token, TokenList& errors);
+};
+
+/// Cuts the lower-case `text` into records of `list`, stopping at the first error. The records made
+/// before an error stay.
+void Tokenize(std::wstring_view text, const Dialect& dialect, TokenList& list);
+
+}  // namespace vexa

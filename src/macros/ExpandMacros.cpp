@@ -1,0 +1,163 @@
+#include "macros/ExpandMacros.h"
+
+#include <array>
+#include <optional>
+#include <span>
+
+#include "display/NumberPatterns.h"
+#include "engine/CalcEngine.h"
+#include "engine/ExprParser.h"
+
+namespace vexa {
+namespace {
+
+constexpr std::wstring_view kCallMark = L"M:";
+/// What may stand right before the first call, and right behind any call.
+constexpr std::wstring_view kBeforeCall = L"^+-*/%(";
+constexpr std::wstring_view kBehindCall = L"^+-*/%)";
+
+constexpr std::wstring_view kNameError = L"Macro Name error";
+constexpr std::wstring_view kArgumentError = L"Macro argument error";
+constexpr std::wstring_view kFormulaError = L"Macro formula is invalid";
+
+/// Decimals of a value that is put back into the expression.
+constexpr int kValueDecimals = 6;
+
+constexpr std::size_t kMaxArguments = 3;
+using Arguments = std::array<double, kMaxArguments>;
+
+/// A call without its mark: name, the text between its parentheses, and its length.
+struct Call {
+  std::wstring_view name;
+  std::wstring_view arguments;
+  std::size_t commas = 0;
+  std::size_t length = 0;
+};
+
+/// The call at the front of `text`, which begins behind the mark; none when its parentheses never
+/// close.
+std::optional<Call> ReadCall(std::wstring_view text) {
+  Call call;
+  int depth = 0;
+  std::size_t open = std::wstring_view::npos;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    // Commas count at every depth, and in the name.
+    if (text[i] == L',') ++call.commas;
+    if (text[i] == L'(') {
+      ++depth;
+      if (open == std::wstring_view::npos) open = i;
+    }
+    if (text[i] == L')' && --depth == 0) {
+      call.name = text.substr(0, open);
+      call.arguments = text.substr(open + 1, i - open - 1);
+      call.length = i + 1;
+      return call;
+    }
+  }
+  return std::nullopt;
+}
+
+/// Evaluates the arguments of a call of a macro with `count` arguments; none when one is missing,
+/// left over or no value.
+std::optional<Arguments> EvaluateArguments(const Call& call, std::size_t count,
+                                           CalcEngine& engine) {
+  if (call.commas != count - 1) return std::nullopt;
+  Arguments values{};
+  std::wstring_view rest = call.arguments;
+  for (std::size_t i = 0; i < count; ++i) {
+    const bool last = i + 1 == count;
+    const std::size_t comma = last ? rest.size() : rest.find(L',');
+    if (comma == std::wstring_view::npos) return std::nullopt;
+    engine.EvaluateExpression(rest.substr(0, comma));
+    if (!engine.errorText.empty()) return std::nullopt;
+    values[i] = engine.result;
+    if (!last) rest.remove_prefix(comma + 1);
+  }
+  return values;
+}
+
+/// Puts the arguments in the places of the variables.
+void SubstituteVariables(std::span<Token> tokens, const Arguments& values) {
+  for (Token& token : tokens) {
+    if (token.isOperand != 1 || token.op == 0) continue;
+    token.value = values[static_cast<std::size_t>(token.op - 'x')];
+    token.op = 0;
+  }
+}
+
+/// Evaluates calls, one at a time.
+class CallEvaluator {
+ public:
+  CallEvaluator(const MacroTable& table, AngleType angle, BaseType base) : macros(table) {
+    argumentEngine.angleMode = angle;
+    argumentEngine.baseMode = base;
+    // A formula is decimal whatever the base of its call.
+    formulaEngine.angleMode = angle;
+  }
+
+  /// The value of `call`, or a sentence in `error`.
+  double Evaluate(const Call& call, std::wstring& error) {
+    const std::optional<int> index = macros.Find(call.name);
+    if (!index) return error = kNameError, 0.0;
+    const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
+    const auto values =
+        EvaluateArguments(call, static_cast<std::size_t>(type) + 1, argumentEngine);
+    if (!values) return error = kArgumentError, 0.0;
+    parser.formulaType = type;
+    parser.Validate(macros.ReadFormula(*index));
+    if (!parser.errorText.empty()) return error = kFormulaError, 0.0;
+    const std::span records(parser.tokens.data(), static_cast<std::size_t>(parser.tokenCount));
+    SubstituteVariables(records, *values);
+    formulaEngine.LoadTokens(records);
+    formulaEngine.EvaluateTokens();
+    error = formulaEngine.errorText;
+    return formulaEngine.result;
+  }
+
+ private:
+  const MacroTable& macros;
+  CalcEngine argumentEngine;
+  CalcEngine formulaEngine;
+  ExprParser parser;
+};
+
+}  // namespace
+
+MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macros,
+                            AngleType angleMode, BaseType baseMode) {
+  MacroExpansion expansion;
+  std::size_t mark = expression.find(kCallMark);
+  if (mark == std::wstring_view::npos) {
+    expansion.expression = expression;
+    return expansion;
+  }
+  // Only the first call's left neighbour is tested; the engine sees the others'.
+  if (mark > 0 && kBeforeCall.find(expression[mark - 1]) == std::wstring_view::npos) {
+    expansion.error = kExpressionErrorText;
+    return expansion;
+  }
+  CallEvaluator evaluator(macros, angleMode, baseMode);
+  // A value's text never holds or completes a call mark, so one walk finds the same calls as a
+  // search from the start after each.
+  while (mark != std::wstring_view::npos) {
+    expansion.expression += expression.substr(0, mark);
+    expression.remove_prefix(mark + kCallMark.size());
+    const std::optional<Call> call = ReadCall(expression);
+    if (!call || (call->length < expression.size() &&
+                  kBehindCall.find(expression[call->length]) == std::wstring_view::npos)) {
+      expansion.error = kExpressionErrorText;
+      return expansion;
+    }
+    const double value = evaluator.Evaluate(*call, expansion.error);
+    if (!expansion.error.empty()) return expansion;
+    expansion.lastResult = value;
+    expansion.lastMacroText = FixedText(value, kValueDecimals);
+    expansion.expression += expansion.lastMacroText;
+    expression.remove_prefix(call->length);
+    mark = expression.find(kCallMark);
+  }
+  expansion.expression += expression;
+  return expansion;
+}
+
+}  // namespace vexa
