@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "display/IniText.h"
+#include "display/WideText.h"
 
 namespace vexa {
 namespace {
@@ -18,10 +19,6 @@ namespace {
 constexpr int kLockPatienceMs = 1000;
 /// Damaged files beside the store: with this many, somebody should look before there are more.
 constexpr int kMostDamagedFiles = 1000;
-
-QString FromWide(std::wstring_view text) {
-  return QString::fromWCharArray(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString ValueName(std::wstring_view section, std::wstring_view entry) {
   return FromWide(section) + u'/' + FromWide(entry);
@@ -96,8 +93,7 @@ bool IsReadableFile(const QString& fileName) {
 
 }  // namespace
 
-FileSettingsStore::FileSettingsStore(QString settingsFolder)
-    : folder(std::move(settingsFolder)) {}
+FileSettingsStore::FileSettingsStore(QString settingsFolder) : folder(std::move(settingsFolder)) {}
 
 FileSettingsStore::~FileSettingsStore() = default;
 
