@@ -29,6 +29,7 @@ class EditLine : public QPlainTextEdit {
   void inputMethodEvent(QInputMethodEvent* event) override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   /// Characters that may replace those from `start` to `end`, in units of the document.
