@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string_view>
+#include <vector>
 
 namespace vexa {
 
@@ -34,5 +35,14 @@ inline constexpr std::array<MemoryMenuItem, 7> kMemoryMenu{{
     {MemoryCommand::RecallVariable, L"ReCall MemVar", false},
     {MemoryCommand::StoreVariable, L"Store MemVar", true},
 }};
+
+/// The items that are shown while there is a result, or while there is none.
+inline std::vector<MemoryMenuItem> ShownMemoryMenu(bool hasResult) {
+  std::vector<MemoryMenuItem> shown;
+  for (const MemoryMenuItem& item : kMemoryMenu) {
+    if (hasResult || !item.needsResult) shown.push_back(item);
+  }
+  return shown;
+}
 
 }  // namespace vexa
