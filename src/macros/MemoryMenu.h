@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace vexa {
+
+/// Commands of the "MEM" menu, with their numbers.
+enum class MemoryCommand : int {
+  StoreVariable = 1,
+  RecallVariable = 2,
+  Separator = 3,
+  Clear = 4,
+  Recall = 5,
+  Minus = 6,
+  Plus = 7,
+};
+
+/// A line of the "MEM" menu.
+struct MemoryMenuItem {
+  std::wstring_view caption;
+  MemoryCommand command;
+  /// Shown only while there is a result to work with.
+  bool needsResult;
+};
+
+/// The "MEM" menu of the calculator and of the unit converter, from top to bottom.
+inline constexpr MemoryMenuItem kMemoryMenu[] = {
+    {L"Memory +", MemoryCommand::Plus, true},
+    {L"Memory -", MemoryCommand::Minus, true},
+    {L"Memory Recall", MemoryCommand::Recall, false},
+    {L"Memory Clear", MemoryCommand::Clear, false},
+    {L"", MemoryCommand::Separator, false},
+    {L"ReCall MemVar", MemoryCommand::RecallVariable, false},
+    {L"Store MemVar", MemoryCommand::StoreVariable, true},
+};
+
+/// The lines to show: all of them, or those that work without a result.
+inline std::vector<MemoryMenuItem> MemoryMenuItems(bool hasResult) {
+  std::vector<MemoryMenuItem> items;
+  for (const MemoryMenuItem& item : kMemoryMenu) {
+    if (hasResult || !item.needsResult) items.push_back(item);
+  }
+  return items;
+}
+
+}  // namespace vexa
