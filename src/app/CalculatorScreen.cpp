@@ -203,7 +203,7 @@ void CalculatorScreen::EditMacros() {
 void CalculatorScreen::OpenMemoryMenu() {
   editLine->setFocus();
   std::vector<PopupCommand> commands;
-  for (const MemoryMenuItem& item : ShownMemoryMenu(calculator.lastError.empty())) {
+  for (const MemoryMenuItem& item : MemoryMenuItems(calculator.lastError.empty())) {
     commands.push_back({static_cast<int>(item.command), std::wstring(item.caption)});
   }
   ShowPopupMenu(keypad, keypad->Button(L"MEM")->geometry().topLeft(), PopupSide::Right, commands,
@@ -213,9 +213,9 @@ void CalculatorScreen::OpenMemoryMenu() {
 
 void CalculatorScreen::RunMemoryCommand(int command) {
   switch (static_cast<MemoryCommand>(command)) {
-    case MemoryCommand::Add:
+    case MemoryCommand::Plus:
       return calculator.AddToMemory();
-    case MemoryCommand::Subtract:
+    case MemoryCommand::Minus:
       return calculator.SubtractFromMemory();
     case MemoryCommand::Recall:
       return InsertIntoLine(calculator.RecallValueText(calculator.memory));

@@ -4,7 +4,6 @@
 
 #include "display/MemorySettingsStore.h"
 #include "display/SettingsLayout.h"
-#include "macros/MemoryMenu.h"
 
 namespace vexa {
 namespace {
@@ -50,24 +49,6 @@ TEST(MemoryVariables, ClearAllWritesEverySlot) {
 TEST(MemoryVariables, Sentences) {
   EXPECT_EQ(MemoryVariables::kSelectMessage, L"Please select a memory variable");
   EXPECT_EQ(MemoryVariables::kClearQuestion, L"Are you sure you want to clear all variable?");
-}
-
-TEST(MemoryMenu, OrderAndNumbers) {
-  struct Item {
-    int number;
-    const wchar_t* caption;
-    bool needsResult;
-  };
-  constexpr Item kExpected[] = {{7, L"Memory +", true},       {6, L"Memory -", true},
-                                {5, L"Memory Recall", false}, {4, L"Memory Clear", false},
-                                {3, L"", false},              {2, L"ReCall MemVar", false},
-                                {1, L"Store MemVar", true}};
-  ASSERT_EQ(kMemoryMenu.size(), std::size(kExpected));
-  for (std::size_t i = 0; i < kMemoryMenu.size(); ++i) {
-    EXPECT_EQ(static_cast<int>(kMemoryMenu[i].command), kExpected[i].number);
-    EXPECT_EQ(kMemoryMenu[i].caption, kExpected[i].caption);
-    EXPECT_EQ(kMemoryMenu[i].needsResult, kExpected[i].needsResult);
-  }
 }
 
 }  // namespace
