@@ -1,9 +1,7 @@
 // The reduction of a range of records in an integer base: NOT, signs, products, sums and bitwise
 // operators.
 
-#include "engine/BinaryOperators.h"
 #include "engine/CalcEngine.h"
-#include "engine/ToInt32.h"
 
 namespace vexa {
 
@@ -11,7 +9,7 @@ void CalcEngine::ReduceBaseRange(int lo, int hi) {
   ApplyComplements(lo, hi);
   ApplySigns(lo, hi);
   ApplyPass(kBaseProducts, lo, hi);
-  if (errorFlag != 1) ApplyPass(kBaseSums, lo, hi);
+  ApplyPass(kBaseSums, lo, hi);
 }
 
 void CalcEngine::ApplyComplements(int lo, int hi) {
@@ -19,7 +17,7 @@ void CalcEngine::ApplyComplements(int lo, int hi) {
     if (At(k).op != 'n') continue;
     const int operand = OperandAfter(k);
     if (operand < tokenCount) {
-      At(operand).value = static_cast<double>(~ToInt32(At(operand).value));
+      plan.Add({.run = RunComplement, .left = static_cast<std::uint8_t>(operand)});
     }
     At(k).op = 0;
   }

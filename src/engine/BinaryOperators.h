@@ -2,14 +2,14 @@
 
 #include <array>
 #include <cstddef>
-#include <string_view>
 
 namespace vexa {
 
-/// The result of a binary operation, or the name of the operation whose limit the operands exceed.
+/// The result of a binary operation, or the name of the operation whose limit the operands exceed
+/// (a pointer, so that the outcome fits into registers).
 struct BinaryOutcome {
   double value = 0.0;
-  std::wstring_view exceeded = {};
+  const wchar_t* exceeded = nullptr;
 };
 
 using BinaryOperation = BinaryOutcome (*)(double left, double right);

@@ -8,6 +8,13 @@
 #include "engine/SyntaxRules.h"
 
 namespace vexa {
+namespace {
+
+/// Records that do not fit together.
+constexpr ReductionStep kExpressionFailure{.run = RunFailure,
+                                           .code = static_cast<int>(ErrorCode::Expression)};
+
+}  // namespace
 
 void CalcEngine::EvaluateExpression(std::wstring_view expression) {
   Clear();
@@ -21,14 +28,15 @@ void CalcEngine::EvaluateExpression(std::wstring_view expression) {
     Tokenize(lower, ExpressionDialect(baseMode), *this);
     if (errorFlag != 1) CheckSyntax(SyntaxRules::Base, *this);
   }
-  if (errorFlag != 1) Reduce();
-  if (errorFlag != 1) ExtractResult();
+  if (errorFlag == 1) return;
+  Reduce();
+  RunPlan();
 }
 
 void CalcEngine::LoadTokens(std::span<const Token> records) {
   const std::size_t count = std::min(records.size(), std::size_t{kMaxTokens + 1});
   std::copy_n(records.begin(), count, tokens.begin());
-  std::fill(tokens.begin() + static_cast<std::ptrdiff_t>(count), tokens.end(), Token{});
+  ClearRecordsFrom(count);
   tokenCount = static_cast<int>(count);
 }
 
@@ -36,9 +44,18 @@ void CalcEngine::EvaluateTokens() {
   errorFlag = 0;
   errorText.clear();
   result = 0.0;
-  CheckSyntax(SyntaxRules::Decimal, *this);
-  if (errorFlag != 1) Reduce();
-  if (errorFlag != 1) ExtractResult();
+  // The record behind the last one stands in for missing operands.
+  At(tokenCount) = {};
+  if (!plan.Fits(Records(), baseMode)) {
+    CheckSyntax(SyntaxRules::Decimal, *this);
+    if (errorFlag == 1) return;
+    Reduce();
+  }
+  RunPlan();
+}
+
+std::span<const Token> CalcEngine::Records() const {
+  return {tokens.data(), static_cast<std::size_t>(tokenCount)};
 }
 
 void CalcEngine::TokenizeDecimal(std::wstring_view expression) {
@@ -46,23 +63,24 @@ void CalcEngine::TokenizeDecimal(std::wstring_view expression) {
 }
 
 void CalcEngine::Reduce() {
+  plan.Begin(Records(), baseMode);
   pendingFunctionClose = 0;
-  for (int i = 0; i < tokenCount; ++i) {
+  for (int i = 0; i < tokenCount && !plan.Failed(); ++i) {
     if (At(i).op != ')') continue;
     int j = i - 1;
     while (j >= 0 && At(j).op != '(') --j;
-    if (j < 0) return ReportError(ErrorCode::Expression);
+    if (j < 0) return plan.Fail(kExpressionFailure);
     if (j > 0 && At(j - 1).op == 'F') pendingFunctionClose = i;
     ReduceRange(j, i);
-    if (errorFlag != 1 && pendingFunctionClose != 0) {
+    if (pendingFunctionClose != 0) {
       ApplyFunctions(j - 1, i);
       pendingFunctionClose = 0;
     }
-    if (errorFlag == 1) return;
     At(j).op = 0;
     At(i).op = 0;
   }
   ReduceRange(0, tokenCount);
+  ExtractResult();
 }
 
 void CalcEngine::ReduceRange(int lo, int hi) {
@@ -74,16 +92,21 @@ void CalcEngine::ReduceRange(int lo, int hi) {
 }
 
 void CalcEngine::ExtractResult() {
-  const Token* only = nullptr;
-  int live = 0;
-  for (int i = 0; i < tokenCount; ++i) {
-    if (At(i).isOperand != 1) continue;
-    only = &At(i);
-    ++live;
+  const auto isLive = [](const Token& token) { return token.isOperand == 1; };
+  const auto records = Records();
+  const auto first = std::find_if(records.begin(), records.end(), isLive);
+  if (std::count_if(first, records.end(), isLive) != 1) return plan.Fail(kExpressionFailure);
+  plan.Finish(static_cast<int>(first - records.begin()));
+}
+
+void CalcEngine::RunPlan() {
+  for (const ReductionStep& step : plan.Steps()) {
+    step.run(*this, step);
+    if (errorFlag == 1) return;
   }
-  if (live != 1) return ReportError(ErrorCode::Expression);
-  if (!std::isfinite(only->value)) return ReportError(ErrorCode::OutOfRange);
-  result = only->value;
+  const double value = At(plan.ResultIndex()).value;
+  if (!std::isfinite(value)) return ReportError(ErrorCode::OutOfRange);
+  result = value;
 }
 
 int CalcEngine::OperandBefore(int index) const {
@@ -101,22 +124,19 @@ void CalcEngine::ApplyPass(const OperatorPass& pass, int lo, int hi) {
   for (int k = lo; k < hi; ++k) {
     if (At(k).kind != kOperatorKind) continue;
     const BinaryOperation operation = pass[static_cast<std::size_t>(At(k).op) % pass.size()];
-    if (!operation) continue;
-    const int leftIndex = OperandBefore(k);
-    if (leftIndex < 0) return ReportError(ErrorCode::Expression);
-    Token& left = At(leftIndex);
-    Token& right = At(OperandAfter(k));
-    if (!std::isfinite(left.value) || !std::isfinite(right.value)) {
-      return ReportError(ErrorCode::OutOfRange);
-    }
-    const BinaryOutcome outcome = operation(left.value, right.value);
-    if (!outcome.exceeded.empty()) {
-      return ReportError(ErrorCode::LimitExceeded, outcome.exceeded);
-    }
-    left.value = outcome.value;
-    right.isOperand = 0;
-    At(k).op = 0;
+    if (operation) ApplyBinary(k, {.run = RunBinary, .operation = operation});
   }
+}
+
+void CalcEngine::ApplyBinary(int index, ReductionStep step) {
+  const int left = OperandBefore(index);
+  if (left < 0) return plan.Fail(kExpressionFailure);
+  const int right = OperandAfter(index);
+  step.left = static_cast<std::uint8_t>(left);
+  step.right = static_cast<std::uint8_t>(right);
+  plan.Add(step);
+  At(right).isOperand = 0;
+  At(index).op = 0;
 }
 
 bool CalcEngine::IsSign(int index) const {
@@ -132,7 +152,9 @@ void CalcEngine::ApplySigns(int lo, int hi) {
     if (!IsSign(k)) break;
     At(k).op = 0;
     const int operand = OperandAfter(k);
-    if (operand < tokenCount) At(operand).value *= -1.0;
+    if (operand < tokenCount) {
+      plan.Add({.run = RunNegation, .left = static_cast<std::uint8_t>(operand)});
+    }
   }
   for (int k = lo; k < hi; ++k) {
     if (At(k).op != '+') continue;

@@ -5,15 +5,16 @@
 #include <string>
 #include <string_view>
 
-#include "engine/BinaryOperators.h"
 #include "engine/CalcModes.h"
 #include "engine/Keywords.h"
+#include "engine/ReductionPlan.h"
 #include "engine/TokenList.h"
 
 namespace vexa {
 
 /// Evaluates one expression. The text is cut once into a flat array of records, and everything
 /// after that (syntax check, reduction, extraction of the result) works in place on the array.
+/// There is no tree: a binary operation writes its result into the record of its left operand.
 ///
 /// Set `angleMode` and `baseMode`, call EvaluateExpression or LoadTokens and EvaluateTokens, then
 /// read `errorText` (empty: success) and `result`. Nothing is thrown; the first error wins.
@@ -32,7 +33,7 @@ class CalcEngine : public TokenList {
   /// Evaluates `expression` (any case) in the current angle mode and base.
   void EvaluateExpression(std::wstring_view expression);
 
-  /// Copies `records` (at most kMaxTokens + 1) into the engine and clears all others.
+  /// Copies `records` (at most kMaxTokens + 1) into the engine; all others are clear.
   void LoadTokens(std::span<const Token> records);
 
   /// Evaluates the records that the caller has put into `tokens` and `tokenCount`, with the decimal
@@ -45,9 +46,11 @@ class CalcEngine : public TokenList {
  private:
   Token& At(int index) { return tokens[static_cast<std::size_t>(index)]; }
   const Token& At(int index) const { return tokens[static_cast<std::size_t>(index)]; }
+  std::span<const Token> Records() const;
 
-  // Reduction: parentheses from the inside out, then the whole expression. A range is the records
-  // from `lo` to `hi` - 1.
+  // The reduction: parentheses from the inside out, then the whole expression. These operations
+  // work on the records' operators only and append the steps to the plan; a binary step clears its
+  // operator and its right operand at once. A range is the records from `lo` to `hi` - 1.
   void Reduce();
   void ReduceRange(int lo, int hi);
   void ReduceDecimalRange(int lo, int hi);
@@ -64,7 +67,13 @@ class CalcEngine : public TokenList {
   void ApplyComplements(int lo, int hi);
   /// The binary operators of `pass`, from left to right.
   void ApplyPass(const OperatorPass& pass, int lo, int hi);
+  /// Plans the binary `step` of the operator at `index` with its nearest live operands.
+  void ApplyBinary(int index, ReductionStep step);
+  /// Finds the one live operand that is left.
   void ExtractResult();
+
+  /// Runs the plan's steps on the records' values.
+  void RunPlan();
 
   /// Index of the nearest live operand at or before `index`, across parentheses; -1: none.
   int OperandBefore(int index) const;
@@ -76,6 +85,7 @@ class CalcEngine : public TokenList {
 
   /// Index of the ")" whose "(" is preceded by a function; 0: none.
   int pendingFunctionClose = 0;
+  ReductionPlan plan;
 };
 
 }  // namespace vexa

@@ -12,8 +12,13 @@ void TokenList::ReportError(ErrorCode code, std::wstring_view argument) {
 void TokenList::Clear() {
   errorFlag = 0;
   errorText.clear();
+  ClearRecordsFrom(0);
   tokenCount = 0;
-  tokens.fill({});
+}
+
+void TokenList::ClearRecordsFrom(std::size_t count) {
+  const auto used = static_cast<std::size_t>(tokenCount);
+  for (std::size_t i = count; i <= used; ++i) tokens[i] = {};
 }
 
 }  // namespace vexa

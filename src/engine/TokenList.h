@@ -29,6 +29,8 @@ class TokenList {
  protected:
   /// Forgets the records and the error.
   void Clear();
+  /// Clears the records from `count` on; those behind the ones in use are clear already.
+  void ClearRecordsFrom(std::size_t count);
 };
 
 }  // namespace vexa

@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "converter/RecordingStore.h"
+#include "macros/MemoryMenu.h"
 #include "support/Vectors.h"
 
 namespace vexa {
@@ -196,6 +197,26 @@ TEST(UnitConverter, TinyValuesUnderflowToZero) {
   Session session({7, 12, 9}, L"5e-324");
   EXPECT_EQ(session.converter.OutputLine(), L"0");
   EXPECT_EQ(session.converter.Accept(), L"");
+}
+
+/// The captions of the "MEM" menu's lines that are shown.
+std::vector<std::wstring_view> MenuOf(const UnitConverter& converter) {
+  std::vector<std::wstring_view> captions;
+  for (const MemoryMenuItem& item : kMemoryMenu) {
+    if (converter.HasResult() || !item.needsResult) captions.push_back(item.caption);
+  }
+  return captions;
+}
+
+TEST(ConverterMemory, MenuByState) {
+  using Captions = std::vector<std::wstring_view>;
+  Session session({6, 14, 22}, L"1");
+  EXPECT_EQ(MenuOf(session.converter),
+            (Captions{L"Memory +", L"Memory -", L"Memory Recall", L"Memory Clear", L"",
+                      L"ReCall MemVar", L"Store MemVar"}));
+  session.converter.EnterText(L"1e300");
+  EXPECT_EQ(MenuOf(session.converter),
+            (Captions{L"Memory Recall", L"Memory Clear", L"", L"ReCall MemVar"}));
 }
 
 TEST(ConverterMemory, PlusAndMinus) {
