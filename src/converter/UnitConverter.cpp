@@ -109,7 +109,7 @@ void UnitConverter::RecallVariable(std::wstring_view variableText) {
 }
 
 std::wstring_view UnitConverter::Accept() const {
-  return lastError.empty() ? std::wstring_view{} : kCannotAccept;
+  return HasResult() ? std::wstring_view{} : kCannotAccept;
 }
 
 /// Fills the unit lists from scratch; nothing is selected in them.

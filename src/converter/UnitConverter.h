@@ -102,8 +102,10 @@ class UnitConverter {
   /// The last number formatted here, after a conversion the result: what "OK" hands back and
   /// "Store MemVar" stores.
   const std::wstring& ResultText() const { return resultText; }
-  /// Empty, or the overflow sentence; then memory commands that use the result are not offered.
+  /// Empty, or the overflow sentence.
   const std::wstring& LastError() const { return lastError; }
+  /// Whether the lines of the "MEM" menu that need a result are shown.
+  bool HasResult() const { return lastError.empty(); }
 
  private:
   void LoadCategory(int category);

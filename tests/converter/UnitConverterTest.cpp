@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "converter/RecordingStore.h"
+#include "macros/MemoryMenu.h"
 #include "support/Vectors.h"
 
 namespace vexa {
@@ -27,8 +28,8 @@ constexpr ConverterPositions kMetersToKilometers{6, 16, 14};
 constexpr ConverterPositions kCelsiusToFahrenheit{11, 0, 0};
 
 /// A converter that is open on `positions` with `text`.
-struct Session {
-  Session(const ConverterPositions& positions, std::wstring_view text, double memory = 0.0) {
+struct OpenConverter {
+  OpenConverter(const ConverterPositions& positions, std::wstring_view text, double memory = 0.0) {
     converter.Open(positions, memory, text);
   }
 
@@ -37,7 +38,7 @@ struct Session {
 };
 
 TEST(UnitConverter, ConvertsAtEveryKeystroke) {
-  Session session(kMetersToKilometers, L"1");
+  OpenConverter opened(kMetersToKilometers, L"1");
   const struct {
     std::wstring_view text;
     std::wstring_view line;
@@ -50,40 +51,40 @@ TEST(UnitConverter, ConvertsAtEveryKeystroke) {
       {L"1e999", L"1.5", kNotice},  {L"0", L"0", L""},
   };
   for (const auto& c : cases) {
-    session.converter.EnterText(c.text);
-    EXPECT_EQ(session.converter.InputText(), c.text);
-    EXPECT_EQ(session.converter.OutputLine(), c.line) << Narrow(c.text);
-    EXPECT_EQ(session.converter.ResultText(), c.line) << Narrow(c.text);
-    EXPECT_EQ(session.converter.InputNotice(), c.notice) << Narrow(c.text);
+    opened.converter.EnterText(c.text);
+    EXPECT_EQ(opened.converter.InputText(), c.text);
+    EXPECT_EQ(opened.converter.OutputLine(), c.line) << Narrow(c.text);
+    EXPECT_EQ(opened.converter.ResultText(), c.line) << Narrow(c.text);
+    EXPECT_EQ(opened.converter.InputNotice(), c.notice) << Narrow(c.text);
   }
 }
 
 TEST(UnitConverter, ConvertsAtEverySelection) {
-  Session session({6, 16, 16}, L"1500");
-  EXPECT_EQ(session.converter.OutputLine(), L"1,500");
-  session.converter.ChooseOutput(14);
-  EXPECT_EQ(session.converter.OutputLine(), L"1.5");
-  session.converter.ChooseInput(14);
-  EXPECT_EQ(session.converter.OutputLine(), L"1,500");
-  EXPECT_EQ(session.converter.Positions(), (ConverterPositions{6, 14, 14}));
+  OpenConverter opened({6, 16, 16}, L"1500");
+  EXPECT_EQ(opened.converter.OutputLine(), L"1,500");
+  opened.converter.ChooseOutput(14);
+  EXPECT_EQ(opened.converter.OutputLine(), L"1.5");
+  opened.converter.ChooseInput(14);
+  EXPECT_EQ(opened.converter.OutputLine(), L"1,500");
+  EXPECT_EQ(opened.converter.Positions(), (ConverterPositions{6, 14, 14}));
 }
 
 TEST(UnitConverter, PositionsAreThoseOfTheLastConversion) {
-  Session session(kMetersToKilometers, L"1500");
-  session.converter.EnterText(L"x");
-  session.converter.ChooseInput(3);
-  EXPECT_EQ(session.converter.Selection(), (ConverterPositions{6, 3, 14}));
-  EXPECT_EQ(session.converter.Positions(), kMetersToKilometers);
-  session.converter.EnterText(L"2");
-  EXPECT_EQ(session.converter.Positions(), (ConverterPositions{6, 3, 14}));
+  OpenConverter opened(kMetersToKilometers, L"1500");
+  opened.converter.EnterText(L"x");
+  opened.converter.ChooseInput(3);
+  EXPECT_EQ(opened.converter.Selection(), (ConverterPositions{6, 3, 14}));
+  EXPECT_EQ(opened.converter.Positions(), kMetersToKilometers);
+  opened.converter.EnterText(L"2");
+  EXPECT_EQ(opened.converter.Positions(), (ConverterPositions{6, 3, 14}));
 }
 
 TEST(UnitConverter, NumbersAreShownWithTwelveDecimals) {
   EXPECT_EQ(kConverterPrecision, 12);
-  Session session({6, 16, 9}, L"1");
-  EXPECT_EQ(session.converter.OutputLine(), L"3.280839895013");
-  session.converter.EnterText(L"1e15");
-  EXPECT_EQ(session.converter.OutputLine(), L"3.280839895013e+015");
+  OpenConverter opened({6, 16, 9}, L"1");
+  EXPECT_EQ(opened.converter.OutputLine(), L"3.280839895013");
+  opened.converter.EnterText(L"1e15");
+  EXPECT_EQ(opened.converter.OutputLine(), L"3.280839895013e+015");
 }
 
 /// The shortest text that reads back as exactly `value`.
@@ -97,10 +98,10 @@ TEST(UnitConverter, VectorsTypedIntoTheField) {
   int typed = 0;
   for (const auto& row : ReadTable("units.tsv")) {
     if (row[0] == "user") continue;
-    const Session session({Integer(row[1]), Integer(row[2]), Integer(row[3])},
-                          Typed(HexDouble(row[6])));
-    EXPECT_EQ(session.converter.Result(), HexDouble(row[7])) << row[4] << " to " << row[5];
-    EXPECT_EQ(Narrow(session.converter.ResultText()), row[8]) << row[4] << " to " << row[5];
+    const OpenConverter opened({Integer(row[1]), Integer(row[2]), Integer(row[3])},
+                               Typed(HexDouble(row[6])));
+    EXPECT_EQ(opened.converter.Result(), HexDouble(row[7])) << row[4] << " to " << row[5];
+    EXPECT_EQ(Narrow(opened.converter.ResultText()), row[8]) << row[4] << " to " << row[5];
     ++typed;
   }
   EXPECT_EQ(typed, 3826);
@@ -122,10 +123,10 @@ TEST(UnitConverter, TemperatureBlock) {
       {5, L"273.15", L"273.15 Kelvin\r\n=\r\n32 Fahrenheit"},
   };
   for (const auto& c : cases) {
-    Session session({11, c.conversion, 0}, c.text);
-    EXPECT_EQ(session.converter.OutputBlock(), c.block);
-    EXPECT_EQ(session.converter.Positions(), (ConverterPositions{11, c.conversion, 0}));
-    EXPECT_EQ(session.converter.OutputLine(), L"0") << "not shown, not touched";
+    OpenConverter opened({11, c.conversion, 0}, c.text);
+    EXPECT_EQ(opened.converter.OutputBlock(), c.block);
+    EXPECT_EQ(opened.converter.Positions(), (ConverterPositions{11, c.conversion, 0}));
+    EXPECT_EQ(opened.converter.OutputLine(), L"0") << "not shown, not touched";
   }
 }
 
@@ -165,8 +166,8 @@ TEST(UnitConverter, OverflowIsShownAndRefused) {
       {{14, 0, 0}, L"-1.7e308", false},
   };
   for (const auto& c : cases) {
-    Session session(c.positions, c.text);
-    UnitConverter& converter = session.converter;
+    OpenConverter opened(c.positions, c.text);
+    UnitConverter& converter = opened.converter;
     EXPECT_EQ(converter.LastError(), kOverflow);
     EXPECT_EQ(c.line ? converter.OutputLine() : converter.OutputBlock(), kOverflow);
     EXPECT_EQ(converter.Accept(), L"Converting value is error");
@@ -178,56 +179,76 @@ TEST(UnitConverter, OverflowIsShownAndRefused) {
 }
 
 TEST(UnitConverter, AShownOverflowStaysRefusedWhileTheTextIsNoNumber) {
-  Session session({6, 14, 22}, L"1e300");
-  session.converter.EnterText(L"1e300x");
-  EXPECT_EQ(session.converter.OutputLine(), kOverflow);
-  EXPECT_EQ(session.converter.LastError(), kOverflow);
-  EXPECT_EQ(session.converter.Accept(), L"Converting value is error");
+  OpenConverter opened({6, 14, 22}, L"1e300");
+  opened.converter.EnterText(L"1e300x");
+  EXPECT_EQ(opened.converter.OutputLine(), kOverflow);
+  EXPECT_EQ(opened.converter.LastError(), kOverflow);
+  EXPECT_EQ(opened.converter.Accept(), L"Converting value is error");
 }
 
 TEST(UnitConverter, AcceptsThePreviousResultWhileTheTextIsNoNumber) {
-  Session session(kMetersToKilometers, L"1500");
-  session.converter.EnterText(L"15-");
-  EXPECT_EQ(session.converter.Accept(), L"");
-  EXPECT_EQ(session.converter.ResultText(), L"1.5");
+  OpenConverter opened(kMetersToKilometers, L"1500");
+  opened.converter.EnterText(L"15-");
+  EXPECT_EQ(opened.converter.Accept(), L"");
+  EXPECT_EQ(opened.converter.ResultText(), L"1.5");
 }
 
 TEST(UnitConverter, TinyValuesUnderflowToZero) {
-  Session session({7, 12, 9}, L"5e-324");
-  EXPECT_EQ(session.converter.OutputLine(), L"0");
-  EXPECT_EQ(session.converter.Accept(), L"");
+  OpenConverter opened({7, 12, 9}, L"5e-324");
+  EXPECT_EQ(opened.converter.OutputLine(), L"0");
+  EXPECT_EQ(opened.converter.Accept(), L"");
+}
+
+/// The captions of the "MEM" menu's lines that are shown.
+std::vector<std::wstring_view> MenuOf(const UnitConverter& converter) {
+  std::vector<std::wstring_view> captions;
+  for (const MemoryMenuItem& item : kMemoryMenu) {
+    if (converter.HasResult() || !item.needsResult) captions.push_back(item.caption);
+  }
+  return captions;
+}
+
+TEST(ConverterMemory, MenuByState) {
+  using Captions = std::vector<std::wstring_view>;
+  OpenConverter opened({6, 14, 22}, L"1");
+  EXPECT_EQ(MenuOf(opened.converter),
+            (Captions{L"Memory +", L"Memory -", L"Memory Recall", L"Memory Clear", L"",
+                      L"ReCall MemVar", L"Store MemVar"}));
+  opened.converter.EnterText(L"1e300");
+  EXPECT_EQ(MenuOf(opened.converter),
+            (Captions{L"Memory Recall", L"Memory Clear", L"", L"ReCall MemVar"}));
 }
 
 TEST(ConverterMemory, PlusAndMinus) {
-  Session session(kMetersToKilometers, L"1500", 10.0);
-  session.converter.MemoryPlus();
-  EXPECT_EQ(session.converter.Memory(), 11.5);
-  session.converter.MemoryMinus();
-  session.converter.MemoryMinus();
-  EXPECT_EQ(session.converter.Memory(), 8.5);
-  session.converter.MemoryClear();
-  EXPECT_EQ(session.converter.Memory(), 0.0);
-  session.converter.MemoryMinus();
-  EXPECT_EQ(session.converter.Memory(), -1.5);
-  EXPECT_EQ(session.converter.OutputLine(), L"1.5");
+  OpenConverter opened(kMetersToKilometers, L"1500", 10.0);
+  opened.converter.MemoryPlus();
+  EXPECT_EQ(opened.converter.Memory(), 11.5);
+  opened.converter.MemoryMinus();
+  opened.converter.MemoryMinus();
+  EXPECT_EQ(opened.converter.Memory(), 8.5);
+  opened.converter.MemoryClear();
+  EXPECT_EQ(opened.converter.Memory(), 0.0);
+  opened.converter.MemoryMinus();
+  EXPECT_EQ(opened.converter.Memory(), -1.5);
+  EXPECT_EQ(opened.converter.OutputLine(), L"1.5");
 }
 
 TEST(ConverterMemory, RecallPutsTheValueWithoutGrouping) {
-  Session session(kMetersToKilometers, L"1", 1234567.5);
-  session.converter.MemoryRecall();
-  EXPECT_EQ(session.converter.InputText(), L"1234567.5");
-  EXPECT_EQ(session.converter.OutputLine(), L"1,234.5675");
-  EXPECT_EQ(session.converter.ResultText(), L"1,234.5675");
-  EXPECT_EQ(session.converter.Memory(), 1234567.5);
+  OpenConverter opened(kMetersToKilometers, L"1", 1234567.5);
+  opened.converter.MemoryRecall();
+  EXPECT_EQ(opened.converter.InputText(), L"1234567.5");
+  EXPECT_EQ(opened.converter.OutputLine(), L"1,234.5675");
+  EXPECT_EQ(opened.converter.ResultText(), L"1,234.5675");
+  EXPECT_EQ(opened.converter.Memory(), 1234567.5);
 }
 
 TEST(ConverterMemory, RecallOfAnOverflowedMemory) {
-  Session session(kMetersToKilometers, L"1500", std::numeric_limits<double>::infinity());
-  session.converter.MemoryRecall();
-  EXPECT_EQ(session.converter.InputText(), kOverflow);
-  EXPECT_EQ(session.converter.InputNotice(), kNotice);
-  EXPECT_EQ(session.converter.OutputLine(), L"1.5");
-  EXPECT_EQ(session.converter.Accept(), L"Converting value is error");
+  OpenConverter opened(kMetersToKilometers, L"1500", std::numeric_limits<double>::infinity());
+  opened.converter.MemoryRecall();
+  EXPECT_EQ(opened.converter.InputText(), kOverflow);
+  EXPECT_EQ(opened.converter.InputNotice(), kNotice);
+  EXPECT_EQ(opened.converter.OutputLine(), L"1.5");
+  EXPECT_EQ(opened.converter.Accept(), L"Converting value is error");
 }
 
 TEST(ConverterMemory, RecallsAVariable) {
@@ -246,28 +267,28 @@ TEST(ConverterMemory, RecallsAVariable) {
       {L"", L"0", L"0"},
   };
   for (const auto& c : cases) {
-    Session session(kMetersToKilometers, L"1");
-    session.converter.RecallVariable(c.variable);
-    EXPECT_EQ(session.converter.InputText(), c.input) << Narrow(c.variable);
-    EXPECT_EQ(session.converter.OutputLine(), c.line) << Narrow(c.variable);
-    EXPECT_EQ(session.converter.InputNotice(), L"") << Narrow(c.variable);
+    OpenConverter opened(kMetersToKilometers, L"1");
+    opened.converter.RecallVariable(c.variable);
+    EXPECT_EQ(opened.converter.InputText(), c.input) << Narrow(c.variable);
+    EXPECT_EQ(opened.converter.OutputLine(), c.line) << Narrow(c.variable);
+    EXPECT_EQ(opened.converter.InputNotice(), L"") << Narrow(c.variable);
   }
 }
 
 TEST(ConverterMemory, ARecalledTextIsTheLastNumberWhereNothingIsConverted) {
-  Session session({6, -1, -1}, L"1", 2500.0);
-  session.converter.MemoryRecall();
-  EXPECT_EQ(session.converter.InputText(), L"2500");
-  EXPECT_EQ(session.converter.ResultText(), L"2,500");
-  EXPECT_EQ(session.converter.OutputLine(), L"0");
+  OpenConverter opened({6, -1, -1}, L"1", 2500.0);
+  opened.converter.MemoryRecall();
+  EXPECT_EQ(opened.converter.InputText(), L"2500");
+  EXPECT_EQ(opened.converter.ResultText(), L"2,500");
+  EXPECT_EQ(opened.converter.OutputLine(), L"0");
 }
 
 TEST(UnitConverter, NothingIsWrittenToTheStore) {
-  Session session({14, 1, 0}, L"1");
-  session.converter.ChangeCategory(11);
-  session.converter.MemoryPlus();
-  session.converter.ReloadUserConversions();
-  EXPECT_TRUE(session.store.writes.empty());
+  OpenConverter opened({14, 1, 0}, L"1");
+  opened.converter.ChangeCategory(11);
+  opened.converter.MemoryPlus();
+  opened.converter.ReloadUserConversions();
+  EXPECT_TRUE(opened.store.writes.empty());
 }
 
 }  // namespace

@@ -36,6 +36,13 @@ TEST(MemoryVariables, TextThatIsNoNumberIsZero) {
   EXPECT_EQ(variables.Line(3), L"Mem04 = hello");
 }
 
+TEST(MemoryVariables, GroupedTextIsReadWhole) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  variables.Store(0, L"-1,500,000.25");
+  EXPECT_EQ(variables.Value(0), -1500000.25);
+}
+
 TEST(MemoryVariables, ClearAllWritesEverySlot) {
   MemorySettingsStore store;
   MemoryVariables variables(store);
