@@ -53,10 +53,6 @@ const KeyColours& ColoursOf(KeyRole role, const QPalette& palette) {
   return IsDark(palette) ? found->dark : found->light;
 }
 
-QColor FocusColour(const QPalette& palette) {
-  return IsDark(palette) ? QColor(0xFF, 0xC8, 0x57) : QColor(0xA8, 0x4B, 0x00);
-}
-
 QFont ProgramFont(const QFont& base) {
   // The toolkit takes the first family that exists.
   QFont font(base);
