@@ -90,7 +90,7 @@ void KeyButton::paintEvent(QPaintEvent*) {
 
   if (hasFocus()) {
     const QRectF ring = face.adjusted(kFocusWidth, kFocusWidth, -kFocusWidth, -kFocusWidth);
-    painter.setPen(QPen(theme::FocusColour(palette()), kFocusWidth));
+    painter.setPen(QPen(colours.text, kFocusWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(ring, kCornerRadius - kFocusWidth, kCornerRadius - kFocusWidth);
   }

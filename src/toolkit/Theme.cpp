@@ -59,10 +59,6 @@ const KeyColours& ColoursOf(KeyRole role, const QPalette& palette) {
   return IsDark(palette) ? found->dark : found->light;
 }
 
-QColor FocusColour(const QPalette& palette) {
-  return IsDark(palette) ? QColor(0xFF, 0xC8, 0x57) : QColor(0xA8, 0x4B, 0x00);
-}
-
 void ShowOnLightBlue(QWidget* label) {
   QPalette colours = label->palette();
   colours.setColor(QPalette::Window, QColor(222, 231, 255));
