@@ -21,6 +21,7 @@ constexpr int kResultShare = 3;
 constexpr int kKeypadShare = 26;
 constexpr int kLeastEditHeight = 44;
 constexpr int kLeastResultHeight = 36;
+constexpr int kBaseText = 14;
 
 }  // namespace
 
@@ -48,6 +49,9 @@ CalculatorScreen::CalculatorScreen(SettingsStore& store, QWidget* parent)
   baseLabel->setObjectName(QStringLiteral("Base"));
   baseLabel->setAccessibleName(QStringLiteral("Number base"));
   baseLabel->setAlignment(Qt::AlignCenter);
+  QFont baseFont = baseLabel->font();
+  baseFont.setPixelSize(kBaseText);
+  baseLabel->setFont(baseFont);
   keypad->PlaceControl(baseLabel, 0, 0);
 
   Content()->addWidget(editLine, kEditShare);

@@ -16,7 +16,9 @@ const CalculatorKeypadState kStates[] = {
     {static_cast<AngleType>(7), false},
 };
 
-std::string Narrow(std::wstring_view text) { return {text.begin(), text.end()}; }
+std::string Narrow(std::wstring_view text) {
+  return {text.begin(), text.end()};
+}
 
 TEST(CalculatorKeypad, CaptionsAreUnique) {
   std::set<std::wstring_view> captions;
@@ -32,8 +34,7 @@ TEST(CalculatorKeypad, EveryCellShowsAtMostOneKey) {
     std::set<std::pair<int, int>> taken{{0, 0}};  // the base's name
     for (const Key& key : CalculatorKeys()) {
       ASSERT_TRUE(key.row >= 0 && key.row < kRows) << Narrow(key.caption);
-      ASSERT_TRUE(key.column >= 0 && key.columnSpan >= 1 &&
-                  key.column + key.columnSpan <= kColumns)
+      ASSERT_TRUE(key.column >= 0 && key.columnSpan >= 1 && key.column + key.columnSpan <= kColumns)
           << Narrow(key.caption);
       if (!IsKeyShown(key, state)) continue;
       for (int n = 0; n < key.columnSpan; ++n) {
@@ -68,8 +69,9 @@ TEST(CalculatorKeypad, HasEveryKeyOfAPlainCalculation) {
   std::set<std::wstring_view> captions;
   for (const Key& key : CalculatorKeys()) captions.insert(key.caption);
   for (const std::wstring_view caption :
-       {L"0", L"1", L"2", L"3", L"4", L"5", L"6", L"7", L"8", L"9", L"00", L".", L"+", L"-", L"*",
-        L"/", L"(", L")", L"%", L"Exp", L"=", L"BS", L"DEL", L"CLR", L"PB", L"DEG", L"RAD"}) {
+       {L"0", L"1",   L"2", L"3",  L"4",   L"5",   L"6",  L"7",   L"8",
+        L"9", L"00",  L".", L"+",  L"-",   L"*",   L"/",  L"(",   L")",
+        L"%", L"Exp", L"=", L"BS", L"DEL", L"CLR", L"PB", L"DEG", L"RAD"}) {
     EXPECT_TRUE(captions.contains(caption)) << Narrow(caption);
   }
 }
