@@ -16,6 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // Nothing of an evaluation is left behind for the next one.
   CalcEngine used = engine;
   used.EvaluateExpression(expression);
+  CheckSame(used, engine);
+  used.EvaluateExpression(L"1+(1*1)");
+  used.EvaluateExpression(expression);
   CheckOutcome(used);
   CheckSame(used, engine);
 

@@ -30,8 +30,44 @@ constexpr std::array kValues{0.0,
                              4294967295.0,
                              -std::numeric_limits<double>::infinity()};
 
-bool IsVariable(const Token& token) {
-  return token.isOperand && (token.op == 'x' || token.op == 'y' || token.op == 'z');
+using Values = std::array<double, 3>;
+
+Values TakeValues(FuzzInput& input) {
+  Values values{};
+  for (double& value : values) value = kValues[input.TakeByte() % kValues.size()];
+  return values;
+}
+
+/// The number of the variable that a record stands for: 0 for x, 1 for y, 2 for z; -1: none.
+int Variable(const Token& token) {
+  return token.isOperand == 1 && token.op >= 'x' && token.op <= 'z' ? token.op - 'x' : -1;
+}
+
+std::span<const Token> Records(const ExprParser& parser) {
+  return std::span(parser.tokens).first(static_cast<std::size_t>(parser.tokenCount));
+}
+
+void CheckVariables(const ExprParser& parser) {
+  std::array<bool, 3> used{};
+  for (const Token& token : Records(parser)) {
+    if (Variable(token) >= 0) used[static_cast<std::size_t>(Variable(token))] = true;
+  }
+  for (std::size_t i = 0; i < used.size(); ++i) {
+    Promise(used[i] == (i <= static_cast<std::size_t>(parser.formulaType)),
+            "a valid formula uses exactly its variables");
+  }
+}
+
+void Evaluate(const ExprParser& parser, const Values& values, CalcEngine& engine) {
+  engine.LoadTokens(Records(parser));
+  for (Token& token : std::span(engine.tokens).first(Records(parser).size())) {
+    const int variable = Variable(token);
+    if (variable < 0) continue;
+    token.op = 0;
+    token.value = values[static_cast<std::size_t>(variable)];
+  }
+  engine.EvaluateTokens();
+  CheckOutcome(engine);
 }
 
 }  // namespace
@@ -43,36 +79,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   parser.formulaType = static_cast<FormulaType>(input.TakeByte() % 3);
   input.TakeModes(engine.angleMode, engine.baseMode);
   engine.baseMode = BaseType::Dec;
-  std::array<double, 3> values{};
-  for (double& value : values) value = kValues[input.TakeByte() % kValues.size()];
+  CalcEngine freshEngine = engine;
+  const Values values = TakeValues(input);
+  const Values otherValues = TakeValues(input);
 
   parser.Validate(input.TakeText());
   CheckRecords(parser);
   if (!parser.errorText.empty()) return 0;
-  Promise(parser.tokenCount > 0, "a valid formula has records");
+  CheckVariables(parser);
 
-  const auto count = static_cast<std::size_t>(parser.tokenCount);
-  std::array<bool, 3> used{};
-  for (Token& token : std::span(parser.tokens).first(count)) {
-    if (!IsVariable(token)) continue;
-    const auto variable = static_cast<std::size_t>(token.op - 'x');
-    used[variable] = true;
-    token.op = 0;
-    token.value = values[variable];
-  }
-  for (std::size_t i = 0; i < used.size(); ++i) {
-    Promise(used[i] == (i <= static_cast<std::size_t>(parser.formulaType)),
-            "a valid formula uses exactly its variables");
-  }
-
-  engine.LoadTokens(std::span(parser.tokens).first(count));
-  engine.EvaluateTokens();
-  CheckOutcome(engine);
-
-  // The evaluation consumes the records; loading them again starts afresh.
-  CalcEngine reloaded = engine;
-  reloaded.LoadTokens(std::span(parser.tokens).first(count));
-  reloaded.EvaluateTokens();
-  CheckSame(reloaded, engine);
+  // An engine that goes from sample to sample comes to the same end as one that starts afresh.
+  Evaluate(parser, values, engine);
+  Evaluate(parser, otherValues, engine);
+  Evaluate(parser, otherValues, freshEngine);
+  CheckSame(engine, freshEngine);
+  engine.EvaluateExpression(L"(1+2)*sin(3)-4^5");
+  Evaluate(parser, otherValues, engine);
+  CheckSame(engine, freshEngine);
   return 0;
 }
