@@ -3,7 +3,6 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QTextBlock>
 #include <QTextCursor>
 #include <algorithm>
 
@@ -12,6 +11,11 @@
 
 namespace vexa {
 namespace {
+
+/// The text grows with the line, of which it leaves at least two rows visible.
+constexpr int kRows = 3;
+constexpr int kSmallestText = 13;
+constexpr int kLargestText = 22;
 
 /// The keys that end a line in an ordinary edit box, with whatever modifiers.
 bool EndsLine(const QKeyEvent& event) {
@@ -31,7 +35,8 @@ int DocumentPosition(std::wstring_view text, std::size_t position) {
 
 }  // namespace
 
-EditLine::EditLine(QWidget* parent) : QPlainTextEdit(parent) {
+EditLine::EditLine(QWidget* parent, std::size_t longest)
+    : QPlainTextEdit(parent), longestText(longest) {
   setTabChangesFocus(true);
   setWordWrapMode(QTextOption::WrapAnywhere);
 }
@@ -45,7 +50,7 @@ EditText EditLine::State() const {
 
 std::size_t EditLine::RoomFor(int start, int end) const {
   const int kept = document()->characterCount() - 1 - (end - start);
-  return kLongestLine - std::min(kLongestLine, static_cast<std::size_t>(std::max(kept, 0)));
+  return longestText - std::min(longestText, static_cast<std::size_t>(std::max(kept, 0)));
 }
 
 void EditLine::ApplyChange(const TextChange& change) {
@@ -105,6 +110,16 @@ void EditLine::insertFromMimeData(const QMimeData* source) {
   // Only what can have a place is converted, so that a paste of any size is over at once.
   const qsizetype mostUnits = static_cast<qsizetype>(4 * kLongestLine);
   ApplyChange(InsertText(State(), source->text().left(mostUnits).toStdWString()));
+}
+
+void EditLine::resizeEvent(QResizeEvent* event) {
+  QPlainTextEdit::resizeEvent(event);
+  const int size = std::clamp(height() / (kRows + 1), kSmallestText, kLargestText);
+  QFont sized = font();
+  if (sized.pixelSize() == size) return;
+  sized.setPixelSize(size);
+  setFont(sized);
+  ensureCursorVisible();
 }
 
 }  // namespace vexa

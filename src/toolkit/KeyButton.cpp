@@ -18,14 +18,20 @@ constexpr qreal kCornerRadius = 5;
 constexpr qreal kBorderWidth = 1;
 constexpr qreal kFocusWidth = 2;
 
-/// The face's text against the key: its height, and the width that it may take.
-constexpr qreal kTextShareOfHeight = 0.42;
-constexpr qreal kTextShareOfWidth = 0.86;
+/// The face's text against the key. Signs and digits stand alone; names of functions share one
+/// size, in which the longest of them has room.
+constexpr qreal kSignShareOfHeight = 0.48;
+constexpr qreal kNameShareOfHeight = 0.36;
+constexpr qreal kNameShareOfWidth = 0.3;
+constexpr qreal kRoomShareOfWidth = 0.9;
 constexpr qreal kSmallestText = 8;
 constexpr qreal kLargestText = 26;
+constexpr std::size_t kLongestSign = 2;
 
-bool IsNumberEntry(KeyRole role) {
-  return role == KeyRole::Digit || role == KeyRole::Operator || role == KeyRole::Equals;
+bool IsSign(const Key& key) {
+  return key.caption.size() <= kLongestSign &&
+         (key.role == KeyRole::Digit || key.role == KeyRole::Operator ||
+          key.role == KeyRole::Equals);
 }
 
 }  // namespace
@@ -50,16 +56,16 @@ QSize KeyButton::minimumSizeHint() const {
 }
 
 QFont KeyButton::FaceFont() const {
+  const qreal size = IsSign(key)
+                         ? height() * kSignShareOfHeight
+                         : std::min(height() * kNameShareOfHeight, width() * kNameShareOfWidth);
+  const qreal clamped = std::clamp(size, kSmallestText, kLargestText);
   QFont face = font();
-  // Names of functions are words: they look as large as digits at a smaller size.
-  const qreal roleShare = IsNumberEntry(key.role) && key.caption.size() <= 2 ? 1.15 : 0.9;
-  const qreal wanted =
-      std::clamp(height() * kTextShareOfHeight * roleShare, kSmallestText, kLargestText);
-  face.setPixelSize(qRound(wanted));
-  const qreal width = QFontMetricsF(face).horizontalAdvance(text());
-  const qreal room = this->width() * kTextShareOfWidth;
-  if (width > room) {
-    face.setPixelSize(std::max(qRound(kSmallestText), static_cast<int>(wanted * room / width)));
+  face.setPixelSize(qRound(clamped));
+  const qreal textWidth = QFontMetricsF(face).horizontalAdvance(text());
+  const qreal room = width() * kRoomShareOfWidth;
+  if (textWidth > room) {
+    face.setPixelSize(qRound(std::max(kSmallestText, clamped * room / textWidth)));
   }
   return face;
 }

@@ -23,6 +23,9 @@ ResultLine::ResultLine(QWidget* parent) : QPlainTextEdit(parent) {
   setUndoRedoEnabled(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // The margin that centres the text looks like the rest of the line.
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
   document()->setDocumentMargin(kMargin);
   QTextOption option = document()->defaultTextOption();
   option.setAlignment(Qt::AlignRight);
