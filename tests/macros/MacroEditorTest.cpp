@@ -16,7 +16,8 @@ class MacroEditorTest : public testing::Test {
   void StoreMacros(int count) {
     for (int i = 0; i < count; ++i) {
       Write(store, settings::kMacroName, i, L"m" + std::to_wstring(i));
-      Write(store, settings::kMacroType, i, kMacroTypes[static_cast<std::size_t>(i % 3)].storedText);
+      Write(store, settings::kMacroType, i,
+            kMacroTypes[static_cast<std::size_t>(i % 3)].storedText);
       Write(store, settings::kMacroFormula, i, kFormulas[i % 3]);
     }
     Write(store, settings::kMacroCount, count);
@@ -105,7 +106,7 @@ TEST_F(MacroEditorTest, ChecksInOrder) {
       {{L"new", -1, L""}, L"Argument Type is NULL", Field::Type},
       {{L"new", 0, L""}, L"Macro Expression is NULL", Field::Formula},
       {{L"new", 0, L"  "}, L"Macro Expression is NULL", Field::Formula},
-      {{L"new", 0, L"x+" + longest}, L"number exceeded length limit.", Field::Formula},
+      {{L"new", 0, L"x+" + longest}, L"Macro Expression exceeded length limit.", Field::Formula},
       {{L"new", 0, L"x+y"}, L"Can not use variable Y", Field::Formula},
       {{L"new", 1, L"x+z"}, L"Can not use variable Z", Field::Formula},
       {{L"new", 0, L"2+3"}, L"Argument error : Missing variable X", Field::Formula},
