@@ -31,9 +31,9 @@ BaseType ValidBase(int stored) {
 
 Calculator::Calculator(SettingsStore& settingsStore) : macros(settingsStore), store(settingsStore) {
   angleType = static_cast<AngleType>(Read(store, settings::kAngleType));
-  classPos = Read(store, settings::kClassPos);
-  inputTypePos = Read(store, settings::kInputTypePos);
-  outputTypePos = Read(store, settings::kOutputTypePos);
+  converterPositions.category = Read(store, settings::kClassPos);
+  converterPositions.input = Read(store, settings::kInputTypePos);
+  converterPositions.output = Read(store, settings::kOutputTypePos);
   displayType = static_cast<DisplayType>(Read(store, settings::kDisplayType));
   precision = Read(store, settings::kPrecision);
   macros.LoadMacroTable();
@@ -46,9 +46,9 @@ void Calculator::Save() const {
   Write(store, settings::kBaseType, static_cast<int>(baseType));
   Write(store, settings::kDisplayType, static_cast<int>(displayType));
   Write(store, settings::kPrecision, precision);
-  Write(store, settings::kClassPos, classPos);
-  Write(store, settings::kInputTypePos, inputTypePos);
-  Write(store, settings::kOutputTypePos, outputTypePos);
+  Write(store, settings::kClassPos, converterPositions.category);
+  Write(store, settings::kInputTypePos, converterPositions.input);
+  Write(store, settings::kOutputTypePos, converterPositions.output);
   history.Save(store);
 }
 
@@ -118,6 +118,15 @@ std::wstring Calculator::RecallValueText(double value) {
 
 std::wstring Calculator::MemoryVariableText() {
   return FormatResult(answer, DisplayType::FloatingPoint, precision, BaseType::Dec, lastError);
+}
+
+std::wstring Calculator::ConverterInput() const {
+  return ConverterInputText(answer, lastError, displayType, precision);
+}
+
+void Calculator::TakeFromConverter(const ConverterPositions& positions, double memoryValue) {
+  converterPositions = positions;
+  memory = memoryValue;
 }
 
 std::wstring Calculator::RecallHistory(int index) {

@@ -22,7 +22,7 @@ void ExpectBoxes(const ConversionBoxes& boxes, std::wstring_view first, std::wst
   EXPECT_EQ(boxes.rate, rate);
 }
 
-TEST(EditorView, ByStateAndCount) {
+TEST(ListEditorView, ByStateAndCount) {
   const struct {
     bool editing;
     int count;
@@ -36,10 +36,10 @@ TEST(EditorView, ByStateAndCount) {
       {true, 60, L"List(60/60)", false, false},
   };
   for (const auto& c : cases) {
-    const EditorView view = ViewOfEditor(c.editing, c.count);
+    const ListEditorView view = ViewOfListEditor(c.editing, c.count, 60);
     EXPECT_EQ(view.listLabel, c.label);
     EXPECT_EQ(view.listEnabled, !c.editing);
-    EXPECT_EQ(view.boxesEnabled, c.editing);
+    EXPECT_EQ(view.fieldsEnabled, c.editing);
     EXPECT_EQ(view.closeShown, !c.editing);
     EXPECT_EQ(view.newShown, c.newShown) << Narrow(c.label);
     EXPECT_EQ(view.editShown, c.editShown) << Narrow(c.label);
@@ -66,7 +66,7 @@ TEST(UserConversionEditor, SelectingShowsTheConversion) {
   editor.Select(1);
   EXPECT_EQ(editor.Selected(), 1);
   ExpectBoxes(editor.Boxes(), L"A1", L"B1", L"2.5");
-  EXPECT_FALSE(editor.View().boxesEnabled);
+  EXPECT_FALSE(editor.View().fieldsEnabled);
   for (const int outside : {2, -1, -100, 60}) {
     editor.Select(outside);
     EXPECT_EQ(editor.Selected(), -1) << outside;
