@@ -50,14 +50,21 @@ TEST(ListEditorView, ByStateAndCount) {
   }
 }
 
-TEST(UserConversionEditor, OpensInTheViewStateWithNothingSelected) {
+TEST(UserConversionEditor, OpensInTheViewStateWithTheFirstSelected) {
   RecordingStore store = StoreWithConversions(2);
   UserConversionEditor editor(store);
   EXPECT_EQ(editor.View().listLabel, L"List(2/60)");
   EXPECT_TRUE(editor.View().closeShown);
+  EXPECT_EQ(editor.Selected(), 0);
+  ExpectBoxes(editor.Boxes(), L"A0", L"B0", L"1.5");
+  EXPECT_TRUE(store.writes.empty());
+}
+
+TEST(UserConversionEditor, OpensEmptyWithNothingSelected) {
+  RecordingStore store;
+  UserConversionEditor editor(store);
   EXPECT_EQ(editor.Selected(), -1);
   ExpectBoxes(editor.Boxes(), L"", L"", L"");
-  EXPECT_TRUE(store.writes.empty());
 }
 
 TEST(UserConversionEditor, SelectingShowsTheConversion) {
@@ -86,6 +93,7 @@ TEST(UserConversionEditor, NewEmptiesTheBoxes) {
 TEST(UserConversionEditor, EditNeedsASelection) {
   RecordingStore store = StoreWithConversions(2);
   UserConversionEditor editor(store);
+  editor.Select(-1);
   EXPECT_EQ(editor.Edit(), ConversionBox::None);
   EXPECT_FALSE(editor.View().saveShown);
   editor.Select(1);
@@ -226,6 +234,7 @@ TEST(UserConversionEditor, AGroupedRateIsReadBackWhole) {
 TEST(UserConversionEditor, DeleteSelectsWhatTakesItsPlace) {
   RecordingStore store = StoreWithConversions(5);
   UserConversionEditor editor(store);
+  editor.Select(-1);
   editor.Delete();
   EXPECT_TRUE(store.writes.empty()) << "nothing is selected";
   editor.Select(2);
