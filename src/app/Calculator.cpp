@@ -104,6 +104,14 @@ void Calculator::ShowError(std::wstring_view sentence) {
   resultLine = sentence;
 }
 
+std::wstring Calculator::RecallValueText(double value) {
+  return FormatResult(value, DisplayType::FloatingPoint, precision, baseType, lastError);
+}
+
+std::wstring Calculator::MemoryVariableText() {
+  return FormatResult(answer, DisplayType::FloatingPoint, precision, BaseType::Dec, lastError);
+}
+
 std::wstring Calculator::RecallHistory(int index) {
   return RecallText(history.At(index), baseType, precision, lastError);
 }

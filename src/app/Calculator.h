@@ -28,6 +28,15 @@ class Calculator {
   void SetBase(BaseType target);
   /// Switches between degrees and radians.
   void ToggleAngle();
+  /// Adds the answer to the memory register, or subtracts it.
+  void AddToMemory() { memory += answer; }
+  void SubtractFromMemory() { memory -= answer; }
+  void ClearMemory() { memory = 0.0; }
+  /// The text that inserts `value`, of the register or of a memory variable, into the edit line: in
+  /// the current base, without thousands separators.
+  std::wstring RecallValueText(double value);
+  /// The answer as memory variables keep it: decimal, without thousands separators.
+  std::wstring MemoryVariableText();
   /// What recalling history entry `index` (1 is the oldest) inserts into the edit line.
   std::wstring RecallHistory(int index);
 
@@ -37,6 +46,8 @@ class Calculator {
   std::wstring lastError;
   /// The last successful result; 0 after a failure.
   double answer = 0.0;
+  /// The memory register; lives as long as the calculator.
+  double memory = 0.0;
   AngleType angleType;
   BaseType baseType;
   DisplayType displayType;

@@ -12,6 +12,10 @@ const MacroType& MacroTypeOf(std::wstring_view storedText) {
   return *found;
 }
 
+std::wstring MacroLine(const Macro& macro) {
+  return macro.name + std::wstring(MacroTypeOf(macro.type).listSuffix);
+}
+
 void MacroTable::LoadMacroTable() {
   const int count = settings::ClampCount(Read(store, settings::kMacroCount), kMaxMacros);
   macros.clear();

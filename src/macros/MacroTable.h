@@ -14,19 +14,20 @@ namespace vexa {
 /// Macros that can be kept.
 inline constexpr int kMaxMacros = 60;
 
-/// An argument type of macros: the stored text, the variables of its formula, and what lists show
-/// behind a name.
+/// An argument type of macros: the stored text, the variables of its formula, what lists show
+/// behind a name, and what closes a call that a key inserts.
 struct MacroType {
   std::wstring_view storedText;
   FormulaType formulaType;
   std::wstring_view listSuffix;
+  std::wstring_view callSuffix;
 };
 
 /// The argument types in the order in which the editor offers them.
 inline constexpr std::array<MacroType, 3> kMacroTypes{{
-    {L"TYPE1 : F(X)", FormulaType::X, L"(X)"},
-    {L"TYPE2 : F(X,Y)", FormulaType::XY, L"(X,Y)"},
-    {L"TYPE3 : F(X,Y,Z)", FormulaType::XYZ, L"(X,Y,Z)"},
+    {L"TYPE1 : F(X)", FormulaType::X, L"(X)", L" )"},
+    {L"TYPE2 : F(X,Y)", FormulaType::XY, L"(X,Y)", L" , )"},
+    {L"TYPE3 : F(X,Y,Z)", FormulaType::XYZ, L"(X,Y,Z)", L" , , )"},
 }};
 
 /// The type with this stored text; any text that is not in the table counts as the last type.
@@ -37,6 +38,9 @@ struct Macro {
   std::wstring name;
   std::wstring type;
 };
+
+/// A macro as lists show it: area(X,Y)
+std::wstring MacroLine(const Macro& macro);
 
 /// The stored macros' names and types, in order. Every change is written to the store at once.
 class MacroTable {

@@ -27,7 +27,9 @@ TextChange DeleteAfter(const EditText& edit) {
   return {edit.selectionEnd, edit.selectionEnd + 1, L"", edit.selectionEnd};
 }
 
-TextChange DeleteAll(const EditText& edit) { return {0, edit.text.size(), L"", 0}; }
+TextChange DeleteAll(const EditText& edit) {
+  return {0, edit.text.size(), L"", 0};
+}
 
 EditText Apply(const EditText& edit, const TextChange& change) {
   std::wstring text = edit.text;

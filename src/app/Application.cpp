@@ -1,0 +1,50 @@
+#include "app/Application.h"
+
+#include <QApplication>
+
+#include "app/MainFrame.h"
+#include "app/SingleInstance.h"
+#include "app/TerminationSignals.h"
+#include "display/FileSettingsStore.h"
+#include "display/SettingsLayout.h"
+#include "display/WideText.h"
+#include "toolkit/Theme.h"
+
+namespace vexa {
+namespace {
+
+/// Where the window system looks for the permission to take the focus.
+constexpr const char* kActivationToken = "XDG_ACTIVATION_TOKEN";
+
+}  // namespace
+
+int Application::Run(int argc, char** argv) {
+  // First of all: a second copy ends at once, without touching the settings.
+  SingleInstance instance;
+  if (!instance.Claim()) return 0;
+
+  QApplication application(argc, argv);
+  application.setApplicationName(FromWide(settings::kSettingsKey));
+  application.setDesktopFileName(QStringLiteral("vexa-calculator"));
+  application.setFont(theme::ProgramFont(application.font()));
+  // The frame ends the program, not the last of its boxes.
+  application.setQuitOnLastWindowClosed(false);
+
+  TerminationSignals termination;
+  FileSettingsStore store;
+  store.SetSettingsKey(settings::kSettingsKey);
+  MainFrame frame(store);
+  QObject::connect(&frame, &MainFrame::Closed, &application, [] { QCoreApplication::exit(0); });
+  QObject::connect(&termination, &TerminationSignals::TerminationRequested, &frame,
+                   &MainFrame::Exit);
+  QObject::connect(&instance, &SingleInstance::FrontRequested, &frame,
+                   [&frame](const QByteArray& activationToken) {
+                     if (!activationToken.isEmpty()) qputenv(kActivationToken, activationToken);
+                     frame.BringToFront();
+                   });
+  instance.Listen();
+  frame.show();
+  return application.exec();
+}
+
+}  // namespace vexa

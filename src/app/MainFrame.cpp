@@ -1,0 +1,132 @@
+#include "app/MainFrame.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+#include <vector>
+
+#include "app/CalculatorScreen.h"
+#include "app/WindowPlace.h"
+#include "display/SettingsLayout.h"
+#include "display/WideText.h"
+#include "toolkit/ComingScreen.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kLoadingInset = 15;
+
+WindowPlace PlaceOf(const QRect& rect) {
+  return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
+
+/// How each mode's screen is made, in the order of kModes.
+template <Mode mode>
+ModeScreen* NewComingScreen(SettingsStore&, QWidget* parent) {
+  return new ComingScreen(mode, parent);
+}
+ModeScreen* NewCalculatorScreen(SettingsStore& store, QWidget* parent) {
+  return new CalculatorScreen(store, parent);
+}
+constexpr std::array<ModeScreen* (*)(SettingsStore&, QWidget*), kModes.size()> kNewScreen{
+    NewCalculatorScreen,
+    NewComingScreen<Mode::FunctionPlotter>,
+    NewComingScreen<Mode::OneVarStatistics>,
+    NewComingScreen<Mode::TwoVarStatistics>,
+};
+
+}  // namespace
+
+MainFrame::MainFrame(SettingsStore& settingsStore)
+    : store(settingsStore), modeCode(Read(store, settings::kMode)) {
+  setObjectName(QStringLiteral("VexaMain"));
+  setWindowTitle(FromWide(settings::kSettingsKey));
+  RestorePlace();
+}
+
+MainFrame::~MainFrame() {
+  for (auto& screen : screens) screen.reset();
+  Write(store, settings::kMode, modeCode);
+  SavePlace();
+}
+
+void MainFrame::SwitchMode(int code) {
+  modeCode = code;
+  const Mode mode = ModeOfCode(code);
+  const std::size_t current = IndexOf(mode);
+  if (!screens[current]) CreateScreen(mode);
+  screens[current]->show();
+  screens[current]->setFocus();
+  for (std::size_t n = 0; n < screens.size(); ++n) {
+    if (n != current) screens[n].reset();
+  }
+}
+
+void MainFrame::CreateScreen(Mode mode) {
+  auto& screen = screens[IndexOf(mode)];
+  screen.reset(kNewScreen[IndexOf(mode)](store, this));
+  screen->setGeometry(rect());
+  // Queued: the screen's own menu is still at work when it says what was chosen.
+  connect(screen.get(), &ModeScreen::ModeChosen, this, &MainFrame::SwitchMode,
+          Qt::QueuedConnection);
+  connect(screen.get(), &ModeScreen::ExitChosen, this, &MainFrame::Exit, Qt::QueuedConnection);
+}
+
+void MainFrame::Exit() {
+  hide();
+  close();
+}
+
+void MainFrame::BringToFront() {
+  QWidget* const popup = QApplication::activeModalWidget();
+  QWidget* const front = popup ? popup : this;
+  if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  front->raise();
+  front->activateWindow();
+}
+
+void MainFrame::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect inside =
+      rect().adjusted(kLoadingInset, kLoadingInset, -kLoadingInset, -kLoadingInset);
+  painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, QStringLiteral("Loading..."));
+  if (firstScreenAsked) return;
+  firstScreenAsked = true;
+  // Not inside the painting, so that the text is on the display first.
+  QMetaObject::invokeMethod(this, &MainFrame::ShowFirstScreen, Qt::QueuedConnection);
+}
+
+void MainFrame::ShowFirstScreen() {
+  SwitchMode(modeCode);
+}
+
+void MainFrame::resizeEvent(QResizeEvent*) {
+  for (auto& screen : screens) {
+    if (screen) screen->setGeometry(rect());
+  }
+}
+
+void MainFrame::closeEvent(QCloseEvent* event) {
+  event->accept();
+  emit Closed();
+}
+
+void MainFrame::RestorePlace() {
+  std::vector<WindowPlace> areas;
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    areas.push_back(PlaceOf(screen->availableGeometry()));
+  }
+  if (areas.empty()) return;
+  const WindowPlace place = FittedPlace(LoadWindowPlace(store), areas);
+  setMinimumSize(std::min(kLayoutWidth, place.width), std::min(kLayoutHeight, place.height));
+  setGeometry(place.left, place.top, place.width, place.height);
+}
+
+void MainFrame::SavePlace() {
+  SaveWindowPlace(store, PlaceOf(normalGeometry()));
+}
+
+}  // namespace vexa

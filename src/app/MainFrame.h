@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <memory>
+
+#include "display/SettingsStore.h"
+#include "toolkit/Modes.h"
+
+namespace vexa {
+
+class ModeScreen;
+
+/// The program's window: owns the screen of the current mode and switches between the modes.
+class MainFrame : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Reads the mode and the window's place. `settingsStore` must outlive the frame.
+  explicit MainFrame(SettingsStore& settingsStore);
+  /// Writes the mode and the window's place, after the screen has written its settings.
+  ~MainFrame() override;
+
+  /// Shows the screen of the mode with this code, then destroys the one of the mode before.
+  void SwitchMode(int code);
+  /// Hides the frame, then closes it.
+  void Exit();
+  /// Brings the window to the front, or the pop-up window that waits for an answer.
+  void BringToFront();
+
+ signals:
+  void Closed();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void ShowFirstScreen();
+  void CreateScreen(Mode mode);
+  void RestorePlace();
+  void SavePlace();
+
+  SettingsStore& store;
+  int modeCode;
+  bool firstScreenAsked = false;
+  std::array<std::unique_ptr<ModeScreen>, kModes.size()> screens;
+};
+
+}  // namespace vexa

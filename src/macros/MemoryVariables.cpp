@@ -1,0 +1,27 @@
+#include "macros/MemoryVariables.h"
+
+#include "display/SettingsLayout.h"
+#include "engine/NumberText.h"
+
+namespace vexa {
+
+std::wstring MemoryVariables::Text(int index) const {
+  return Read(store, settings::kMemoryVariable, index);
+}
+
+double MemoryVariables::Value(int index) const { return TextToDouble(Text(index)); }
+
+std::wstring MemoryVariables::Line(int index) const {
+  const std::wstring number = std::to_wstring(index + 1);
+  return L"Mem" + std::wstring(number.size() < 2 ? L"0" : L"") + number + L" = " + Text(index);
+}
+
+void MemoryVariables::Store(int index, std::wstring_view text) {
+  Write(store, settings::kMemoryVariable, index, text);
+}
+
+void MemoryVariables::ClearAll() {
+  for (int i = 0; i < kCount; ++i) Store(i, settings::kMemoryVariable.defaultValue);
+}
+
+}  // namespace vexa

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <string>
+
+#include "toolkit/EditText.h"
+
+namespace vexa {
+
+/// An edit line of several rows that holds one line of plain text. Enter is left to the screen's
+/// default button, Tab moves the focus, pasted line breaks become blanks, and the text never grows
+/// beyond kLongestLine characters. Positions are characters of the wide text.
+class EditLine : public QPlainTextEdit {
+  Q_OBJECT
+
+ public:
+  explicit EditLine(QWidget* parent);
+
+  std::wstring Text() const { return toPlainText().toStdWString(); }
+  /// The text with its selection.
+  EditText State() const;
+  /// Applies a rule's change as one step of undo, shows the caret and takes the focus.
+  void ApplyChange(const TextChange& change);
+  /// Selects the whole text, shows the caret and takes the focus.
+  void SelectWholeText();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void insertFromMimeData(const QMimeData* source) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  /// Characters that may replace those from `start` to `end`, in units of the document.
+  std::size_t RoomFor(int start, int end) const;
+};
+
+}  // namespace vexa

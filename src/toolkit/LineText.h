@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vexa {
+
+/// Characters that an edit line holds. An expression has at most 150 tokens; a line this long still
+/// takes any of them with room for blanks, and is laid out without a noticeable delay.
+inline constexpr std::size_t kLongestLine = 10000;
+
+/// `text` for an edit line: every line break, of whatever kind, is a blank ("\r\n" is one break),
+/// and what goes beyond `room` characters is left out.
+std::wstring LineText(std::wstring_view text, std::size_t room = kLongestLine);
+
+}  // namespace vexa

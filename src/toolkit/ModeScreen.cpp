@@ -1,0 +1,87 @@
+#include "toolkit/ModeScreen.h"
+
+#include <QActionGroup>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "display/WideText.h"
+#include "toolkit/AboutBox.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kMargin = 4;
+constexpr int kGap = 4;
+
+}  // namespace
+
+ModeScreen::ModeScreen(Mode mode, QWidget* parent)
+    : QWidget(parent), content(new QVBoxLayout(this)), menuBar(new QMenuBar(this)) {
+  content->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  content->setSpacing(kGap);
+  content->setMenuBar(menuBar);
+  // The screen covers the frame, which shows a text of its own.
+  setAutoFillBackground(true);
+  BuildFileMenu();
+  BuildModeMenu(mode);
+}
+
+void ModeScreen::BuildFileMenu() {
+  struct FileCommand {
+    const char* text;
+    QKeySequence::StandardKey shortcut;
+    void (ModeScreen::*run)();
+  };
+  constexpr FileCommand kFileCommands[] = {
+      {"&About...", QKeySequence::UnknownKey, &ModeScreen::ShowAbout},
+      {"E&xit", QKeySequence::Quit, &ModeScreen::ExitChosen},
+  };
+  QMenu* const menu = menuBar->addMenu(QStringLiteral("&File"));
+  for (const FileCommand& command : kFileCommands) {
+    QAction* const action = menu->addAction(QString::fromLatin1(command.text), this, command.run);
+    action->setShortcuts(command.shortcut);
+  }
+}
+
+void ModeScreen::BuildModeMenu(Mode mode) {
+  QMenu* const menu = menuBar->addMenu(QStringLiteral("&Mode"));
+  modeMenuAction = menu->menuAction();
+  auto* const group = new QActionGroup(menu);
+  for (const ModeName& entry : kModes) {
+    QAction* const action = menu->addAction(FromWide(entry.name), this, [this, entry] {
+      emit ModeChosen(static_cast<int>(entry.mode));
+    });
+    action->setCheckable(true);
+    action->setChecked(entry.mode == mode);
+    group->addAction(action);
+  }
+}
+
+QMenu* ModeScreen::AddMenu(const QString& title) {
+  auto* const menu = new QMenu(title, menuBar);
+  menuBar->insertMenu(modeMenuAction, menu);
+  return menu;
+}
+
+void ModeScreen::SetDefaultButton(QPushButton* button) {
+  defaultButton = button;
+  button->setDefault(true);
+}
+
+void ModeScreen::ShowAbout() {
+  ShowAboutBox(this);
+}
+
+void ModeScreen::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && defaultButton) {
+    defaultButton->click();
+    return;
+  }
+  QWidget::keyPressEvent(event);
+}
+
+}  // namespace vexa

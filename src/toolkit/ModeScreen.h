@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+
+#include "toolkit/Modes.h"
+
+class QAction;
+class QMenu;
+class QMenuBar;
+class QPushButton;
+class QVBoxLayout;
+
+namespace vexa {
+
+/// What the screens of all modes share: the "File" and "Mode" menus, the default button, and
+/// telling the frame what was chosen. A screen never knows the frame.
+class ModeScreen : public QWidget {
+  Q_OBJECT
+
+ public:
+  ModeScreen(Mode mode, QWidget* parent);
+
+ signals:
+  /// Another mode was chosen: its stored code.
+  void ModeChosen(int code);
+  void ExitChosen();
+
+ protected:
+  /// Enter runs `button`, whatever control has the focus.
+  void SetDefaultButton(QPushButton* button);
+  /// Adds a menu between "File" and "Mode".
+  QMenu* AddMenu(const QString& title);
+  /// The layout of the screen's controls, below the menus.
+  QVBoxLayout* Content() const { return content; }
+
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void BuildFileMenu();
+  void BuildModeMenu(Mode mode);
+  void ShowAbout();
+
+  QVBoxLayout* content;
+  QMenuBar* menuBar;
+  QAction* modeMenuAction = nullptr;
+  QPushButton* defaultButton = nullptr;
+};
+
+}  // namespace vexa

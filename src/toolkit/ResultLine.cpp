@@ -1,0 +1,86 @@
+#include "toolkit/ResultLine.h"
+
+#include <QTextDocument>
+#include <QTextLayout>
+#include <algorithm>
+
+namespace vexa {
+namespace {
+
+/// Text sizes in pixels. A single row is preferred while it stays readable at a glance.
+constexpr int kLargestText = 28;
+constexpr int kSmallestSingleRow = 13;
+constexpr int kSmallestText = 7;
+constexpr qreal kMargin = 3;
+
+}  // namespace
+
+ResultLine::ResultLine(QWidget* parent) : QPlainTextEdit(parent) {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setFocusPolicy(Qt::StrongFocus);
+  setTabChangesFocus(true);
+  setUndoRedoEnabled(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // The margin that centres the text looks like the rest of the line.
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
+  document()->setDocumentMargin(kMargin);
+  QTextOption option = document()->defaultTextOption();
+  option.setAlignment(Qt::AlignRight);
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  document()->setDefaultTextOption(option);
+  setWordWrapMode(option.wrapMode());
+}
+
+void ResultLine::ShowText(const QString& text) {
+  setPlainText(text);
+  FitText();
+}
+
+void ResultLine::resizeEvent(QResizeEvent* event) {
+  QPlainTextEdit::resizeEvent(event);
+  FitText();
+}
+
+ResultLine::Extent ResultLine::Measure(int pixelSize, qreal width) const {
+  QFont sized = font();
+  sized.setPixelSize(pixelSize);
+  QTextLayout layout(toPlainText(), sized);
+  layout.setTextOption(document()->defaultTextOption());
+  Extent extent{0, 0};
+  layout.beginLayout();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(width);
+    extent.height += line.height();
+    ++extent.rows;
+  }
+  layout.endLayout();
+  return extent;
+}
+
+void ResultLine::FitText() {
+  // The inner area without the margin that centres the text, which is what is being decided.
+  const int frame = 2 * frameWidth();
+  const qreal width = this->width() - frame - 2 * kMargin;
+  const qreal height = this->height() - frame - 2 * kMargin;
+  if (width <= 0 || height <= 0) return;
+
+  int size = kLargestText;
+  Extent extent = Measure(size, width);
+  while (size > kSmallestSingleRow && (extent.rows > 1 || extent.height > height)) {
+    extent = Measure(--size, width);
+  }
+  while (size > kSmallestText && extent.height > height) extent = Measure(--size, width);
+
+  QFont sized = document()->defaultFont();
+  if (sized.pixelSize() != size) {
+    sized.setPixelSize(size);
+    document()->setDefaultFont(sized);
+  }
+  const int top = std::max(0, static_cast<int>((height - extent.height) / 2));
+  setViewportMargins(0, top, 0, 0);
+}
+
+}  // namespace vexa

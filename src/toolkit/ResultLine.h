@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace vexa {
+
+/// A right-aligned text for reading: selectable, can be copied, and always shown whole, in the
+/// largest size that has room, over several rows where a row is too short.
+class ResultLine : public QPlainTextEdit {
+  Q_OBJECT
+
+ public:
+  explicit ResultLine(QWidget* parent);
+
+  /// Shows `text`.
+  void ShowText(const QString& text);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void FitText();
+  /// The height of the text at `pixelSize` and the number of its rows.
+  struct Extent {
+    qreal height;
+    int rows;
+  };
+  Extent Measure(int pixelSize, qreal width) const;
+};
+
+}  // namespace vexa

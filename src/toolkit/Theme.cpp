@@ -1,0 +1,67 @@
+#include "toolkit/Theme.h"
+
+#include <array>
+
+namespace vexa::theme {
+namespace {
+
+struct RoleColours {
+  KeyRole role;
+  KeyColours light;
+  KeyColours dark;
+};
+
+KeyColours Colours(QRgb face, QRgb pressedFace, QRgb text, QRgb disabledText, QRgb border) {
+  return {QColor(face), QColor(pressedFace), QColor(text), QColor(disabledText), QColor(border)};
+}
+
+/// Each row: face, pressed face, text, text of a key that is shown but inert, border.
+const std::array<RoleColours, 6>& Table() {
+  // clang-format off
+  static const std::array<RoleColours, 6> table{{
+      {KeyRole::Digit,    Colours(0xFFFFFF, 0xD9DCE2, 0x17191C, 0x8C9097, 0xC3C7CE),
+                          Colours(0x43464D, 0x5A5E67, 0xFFFFFF, 0x8A8E96, 0x53575F)},
+      {KeyRole::Operator, Colours(0xD9E5F8, 0xB7CCEE, 0x10305F, 0x7F93B5, 0xB3C6E4),
+                          Colours(0x274063, 0x35557F, 0xDCE9FF, 0x7A8FAF, 0x375680)},
+      {KeyRole::Function, Colours(0xE6E8EC, 0xCBCED5, 0x22262C, 0x8A8E95, 0xC6C9D0),
+                          Colours(0x2B2E34, 0x42464E, 0xE6E8EC, 0x7D8189, 0x40444C)},
+      {KeyRole::Editing,  Colours(0xF8DFD8, 0xEFC3B7, 0x74200F, 0xB58A80, 0xE5BFB5),
+                          Colours(0x552B22, 0x703A2F, 0xFFDDD4, 0xA78278, 0x703A2F)},
+      {KeyRole::Command,  Colours(0xDBEEDF, 0xBBDEC3, 0x124A26, 0x83A38C, 0xB5D6BD),
+                          Colours(0x21432C, 0x2E5B3C, 0xD3F3DC, 0x7B9C85, 0x2E5B3C)},
+      {KeyRole::Equals,   Colours(0x1F5BB5, 0x16448A, 0xFFFFFF, 0xB9C9E2, 0x1F5BB5),
+                          Colours(0x2A66C4, 0x1F4F9B, 0xFFFFFF, 0xB9C9E2, 0x2A66C4)},
+  }};
+  // clang-format on
+  return table;
+}
+
+/// Half of the lightness scale, 0 to 255.
+constexpr int kMiddleLightness = 128;
+
+}  // namespace
+
+bool IsDark(const QPalette& palette) {
+  return palette.color(QPalette::Window).lightness() < kMiddleLightness;
+}
+
+const KeyColours& ColoursOf(KeyRole role, const QPalette& palette) {
+  const RoleColours* found = &Table().front();
+  for (const RoleColours& row : Table()) {
+    if (row.role == role) found = &row;
+  }
+  return IsDark(palette) ? found->dark : found->light;
+}
+
+QColor FocusColour(const QPalette& palette) {
+  return IsDark(palette) ? QColor(0xFF, 0xC8, 0x57) : QColor(0xA8, 0x4B, 0x00);
+}
+
+QFont ProgramFont(const QFont& base) {
+  // The toolkit takes the first family that exists.
+  QFont font(base);
+  font.setFamilies({QStringLiteral("Tahoma"), base.family()});
+  return font;
+}
+
+}  // namespace vexa::theme

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+#include "toolkit/Key.h"
+
+namespace vexa::theme {
+
+/// The colours of a key.
+struct KeyColours {
+  QColor face;
+  QColor pressedFace;
+  QColor text;
+  QColor disabledText;
+  QColor border;
+};
+
+/// True when the desktop's colours are dark.
+bool IsDark(const QPalette& palette);
+/// The colours of keys with `role` beside a window with `palette`'s colours. Text on either face
+/// has a contrast of at least 4.5 to 1.
+const KeyColours& ColoursOf(KeyRole role, const QPalette& palette);
+/// The frame that marks the key with the keyboard's focus.
+QColor FocusColour(const QPalette& palette);
+
+/// `base`, the desktop's own font, in "Tahoma" where that exists.
+QFont ProgramFont(const QFont& base);
+
+}  // namespace vexa::theme

@@ -1,0 +1,74 @@
+#include "macros/MemoryVariables.h"
+
+#include <gtest/gtest.h>
+
+#include "display/MemorySettingsStore.h"
+#include "display/SettingsLayout.h"
+#include "macros/MemoryMenu.h"
+
+namespace vexa {
+namespace {
+
+TEST(MemoryVariables, FreshStoreListsZeros) {
+  MemorySettingsStore store;
+  const MemoryVariables variables(store);
+  EXPECT_EQ(variables.Line(0), L"Mem01 = 0");
+  EXPECT_EQ(variables.Line(8), L"Mem09 = 0");
+  EXPECT_EQ(variables.Line(9), L"Mem10 = 0");
+  EXPECT_EQ(variables.Line(19), L"Mem20 = 0");
+}
+
+TEST(MemoryVariables, StoreWritesTheSlotAtOnce) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  variables.Store(0, L"2.5");
+  variables.Store(19, L"1.00000e+020");
+  EXPECT_EQ(store.ReadSettingString(L"MemoryVar", L"Var0", L""), L"2.5");
+  EXPECT_EQ(store.ReadSettingString(L"MemoryVar", L"Var19", L""), L"1.00000e+020");
+  EXPECT_EQ(variables.Line(0), L"Mem01 = 2.5");
+  EXPECT_EQ(variables.Value(19), 1e20);
+}
+
+TEST(MemoryVariables, TextThatIsNoNumberIsZero) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  variables.Store(3, L"hello");
+  EXPECT_EQ(variables.Value(3), 0.0);
+  EXPECT_EQ(variables.Line(3), L"Mem04 = hello");
+}
+
+TEST(MemoryVariables, ClearAllWritesEverySlot) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  for (int i = 0; i < MemoryVariables::kCount; ++i) variables.Store(i, L"7");
+  variables.ClearAll();
+  for (int i = 0; i < MemoryVariables::kCount; ++i) {
+    EXPECT_EQ(Read(store, settings::kMemoryVariable, i), L"0");
+  }
+}
+
+TEST(MemoryVariables, Sentences) {
+  EXPECT_EQ(MemoryVariables::kSelectMessage, L"Please select a memory variable");
+  EXPECT_EQ(MemoryVariables::kClearQuestion, L"Are you sure you want to clear all variable?");
+}
+
+TEST(MemoryMenu, OrderAndNumbers) {
+  struct Item {
+    int number;
+    const wchar_t* caption;
+    bool needsResult;
+  };
+  constexpr Item kExpected[] = {{7, L"Memory +", true},       {6, L"Memory -", true},
+                                {5, L"Memory Recall", false}, {4, L"Memory Clear", false},
+                                {3, L"", false},              {2, L"ReCall MemVar", false},
+                                {1, L"Store MemVar", true}};
+  ASSERT_EQ(kMemoryMenu.size(), std::size(kExpected));
+  for (std::size_t i = 0; i < kMemoryMenu.size(); ++i) {
+    EXPECT_EQ(static_cast<int>(kMemoryMenu[i].command), kExpected[i].number);
+    EXPECT_EQ(kMemoryMenu[i].caption, kExpected[i].caption);
+    EXPECT_EQ(kMemoryMenu[i].needsResult, kExpected[i].needsResult);
+  }
+}
+
+}  // namespace
+}  // namespace vexa
