@@ -220,6 +220,20 @@ TEST(Calculator, HistoryNeverExceedsTen) {
   EXPECT_EQ(calculator.history.At(10), L"19");
 }
 
+TEST(Calculator, EvaluatesItsOwnTexts) {
+  MemorySettingsStore store;
+  Calculator calculator(store);
+  const std::wstring expression = L"1111111111+2222222222+3333333333+4444444444";
+  calculator.Evaluate(expression);
+  for (int i = 0; i < 4; ++i) calculator.Evaluate(std::to_wstring(i));
+  calculator.Evaluate(calculator.history.At(2));
+  EXPECT_EQ(calculator.resultLine, L"11,111,111,110");
+  EXPECT_EQ(calculator.history.At(10), expression);
+  calculator.Evaluate(L"255");
+  calculator.Evaluate(calculator.resultLine);
+  EXPECT_EQ(calculator.history.At(10), L"255");
+}
+
 TEST(Calculator, TagsOfTheBases) {
   MemorySettingsStore store;
   Calculator calculator(store);
