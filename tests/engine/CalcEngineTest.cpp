@@ -10,6 +10,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "display/NumberPatterns.h"
 #include "engine/ExprParser.h"
 #include "support/Vectors.h"
 
@@ -464,7 +465,7 @@ TEST(CalcEngine, LoadedTokens) {
       engine.EvaluateTokens();
       std::wstring text = formula;
       for (std::size_t at = 0; (at = text.find(L'x')) != std::wstring::npos;) {
-        text.replace(at, 1, L"(0+" + std::to_wstring(x) + L")");
+        text.replace(at, 1, L"(0+" + FixedText(x, 6) + L")");
       }
       // A bracket is the same value, except that it hides the operand from an implicit product.
       const CalcEngine expected = Evaluated(text);
