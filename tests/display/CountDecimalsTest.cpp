@@ -37,6 +37,9 @@ TEST(CountDecimals, Table) {
       {0.99999999999995, 0},
       {0.29999999999999, 1},
       {0.3000000000001, 1},
+      // A last digit behind the nines does not end their run.
+      {0.1299999999992, 2},
+      {0.1299999999995, 2},
       {1234567.1, 1},
   };
   for (const auto& [value, count] : cases) {

@@ -211,6 +211,8 @@ TEST(CalcEngine, DecimalErrors) {
       {L"1e999+1", kOutOfRange},
       {L"1e999*0", kOutOfRange},
       {L"sin 1e999", kOutOfRange},
+      {L".5^1e999", kOutOfRange},
+      {L"1e999^0", kOutOfRange},
       {L"10^400", kOutOfRange},
       {L"10^400^2", kOutOfRange},
       {L"10^400+1", kOutOfRange},
