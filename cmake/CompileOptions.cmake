@@ -9,4 +9,6 @@ if(VEXA_SANITIZE)
   target_compile_options(vexa_options INTERFACE
     -fsanitize=${VEXA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(vexa_options INTERFACE -fsanitize=${VEXA_SANITIZE})
+  # The containers check their indices too, which the sanitizers cannot see inside an object.
+  target_compile_definitions(vexa_options INTERFACE _GLIBCXX_ASSERTIONS)
 endif()

@@ -106,6 +106,14 @@ void Calculator::ShowError(std::wstring_view sentence) {
   resultLine = sentence;
 }
 
+void Calculator::SetDisplay(DisplayType type, int decimals) {
+  displayType = type;
+  precision = decimals;
+  Write(store, settings::kDisplayType, static_cast<int>(displayType));
+  Write(store, settings::kPrecision, precision);
+  ShowAnswer();
+}
+
 std::wstring Calculator::RecallValueText(double value) {
   return FormatResult(value, DisplayType::FloatingPoint, precision, baseType, lastError);
 }

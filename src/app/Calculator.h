@@ -28,6 +28,8 @@ class Calculator {
   void SetBase(BaseType target);
   /// Switches between degrees and radians.
   void ToggleAngle();
+  /// Changes and stores how numbers are shown, and shows the answer so.
+  void SetDisplay(DisplayType type, int decimals);
   /// Adds the answer to the memory register, or subtracts it.
   void AddToMemory() { memory += answer; }
   void SubtractFromMemory() { memory -= answer; }

@@ -11,6 +11,9 @@ namespace vexa {
 struct CalculatorKeypadState {
   AngleType angleType = AngleType::Degrees;
   bool historyIsEmpty = true;
+  BaseType base = BaseType::Dec;
+  /// Which of the two layers is visible.
+  bool shifted = false;
 };
 
 /// The calculator's keys. Keys that take each other's place share a cell.
@@ -21,7 +24,17 @@ bool IsKeyShown(const Key& key, const CalculatorKeypadState& state);
 /// True unless the key is shown but inert.
 bool IsKeyEnabled(const Key& key, const CalculatorKeypadState& state);
 
-/// The name of an integer base, or of decimal.
-std::wstring_view BaseName(BaseType base);
+/// A base as the menu of bases offers it.
+struct BaseChoice {
+  BaseType base;
+  std::wstring_view name;
+};
+
+/// The menu's title and its entries, from top to bottom.
+inline constexpr std::wstring_view kBaseMenuTitle = L"MODE";
+inline constexpr BaseChoice kBaseMenu[] = {{BaseType::Bin, L"Binary"},
+                                           {BaseType::Oct, L"Octal"},
+                                           {BaseType::Dec, L"Decimal"},
+                                           {BaseType::Hex, L"Hexadecimal"}};
 
 }  // namespace vexa

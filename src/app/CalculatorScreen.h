@@ -3,7 +3,7 @@
 #include "app/Calculator.h"
 #include "toolkit/ModeScreen.h"
 
-class QLabel;
+class QDialog;
 
 namespace vexa {
 
@@ -29,6 +29,7 @@ class CalculatorScreen : public ModeScreen {
   };
   static const KeyCommand kKeyCommands[];
 
+  void BuildFileMenu();
   void BuildEditMenu();
   void PressKey(int index);
   void Refresh();
@@ -39,15 +40,30 @@ class CalculatorScreen : public ModeScreen {
   void Clear();
   void ToggleAngle();
   void RecallHistory();
+  void ToggleShift();
+  void ChooseBase();
+  void InsertMacro();
+  void InsertMacroCall(int index);
+  void OpenMemoryMenu();
+  void RunMemoryCommand(int command);
+  void RecallVariable();
+  void StoreVariable();
+  void Configure();
+  void EditMacros();
   void Cut();
   void Copy();
   void Paste();
 
+  /// Gives the edit line the focus again when `dialog` is closed, and opens it.
+  void OpenDialog(QDialog* dialog);
+  void InsertIntoLine(const std::wstring& text);
+
+  SettingsStore& store;
   Calculator calculator;
+  bool shifted = false;
   EditLine* editLine;
   ResultLine* resultLine;
   Keypad* keypad;
-  QLabel* baseLabel;
 };
 
 }  // namespace vexa

@@ -74,7 +74,7 @@ inline constexpr IndexedTextSetting kMemoryVariable{L"MemoryVar", L"Var", L"0"};
 
 inline constexpr IntSetting kConversionCount {L"Converter", L"UserDefine_TotalNumber", 0};
 inline constexpr SectionTextSetting kConversionName{L"UserDefine_Convert_", L"ConvType", L""};  // 0..59
-inline constexpr SectionTextSetting kConversionRate{L"UserDefine_Convert_", L"Rate", L""};
+inline constexpr SectionTextSetting kConversionRate{L"UserDefine_Convert_", L"Rate", L"0"};
 // clang-format on
 
 /// `prefix` followed by `index` in decimal.

@@ -11,7 +11,6 @@
 namespace vexa {
 namespace {
 
-constexpr std::wstring_view kCallMark = L"M:";
 /// What may stand right before the first call, and right behind any call.
 constexpr std::wstring_view kBeforeCall = L"^+-*/%(";
 constexpr std::wstring_view kBehindCall = L"^+-*/%)";
@@ -126,7 +125,7 @@ class CallEvaluator {
 MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macros,
                             AngleType angleMode, BaseType baseMode) {
   MacroExpansion expansion;
-  std::size_t mark = expression.find(kCallMark);
+  std::size_t mark = expression.find(kMacroCallMark);
   if (mark == std::wstring_view::npos) {
     expansion.expression = expression;
     return expansion;
@@ -141,7 +140,7 @@ MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macr
   // search from the start after each.
   while (mark != std::wstring_view::npos) {
     expansion.expression += expression.substr(0, mark);
-    expression.remove_prefix(mark + kCallMark.size());
+    expression.remove_prefix(mark + kMacroCallMark.size());
     const std::optional<Call> call = ReadCall(expression);
     if (!call || (call->length < expression.size() &&
                   kBehindCall.find(expression[call->length]) == std::wstring_view::npos)) {
@@ -154,7 +153,7 @@ MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macr
     expansion.lastMacroText = FixedText(value, kValueDecimals);
     expansion.expression += expansion.lastMacroText;
     expression.remove_prefix(call->length);
-    mark = expression.find(kCallMark);
+    mark = expression.find(kMacroCallMark);
   }
   expansion.expression += expression;
   return expansion;

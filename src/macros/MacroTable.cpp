@@ -16,6 +16,10 @@ std::wstring MacroLine(const Macro& macro) {
   return macro.name + std::wstring(MacroTypeOf(macro.type).listSuffix);
 }
 
+MacroCall CallOf(const Macro& macro) {
+  return {std::wstring(kMacroCallMark) + macro.name + L"(", MacroTypeOf(macro.type).callSuffix};
+}
+
 void MacroTable::LoadMacroTable() {
   const int count = settings::ClampCount(Read(store, settings::kMacroCount), kMaxMacros);
   macros.clear();

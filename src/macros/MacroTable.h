@@ -14,6 +14,9 @@ namespace vexa {
 /// Macros that can be kept.
 inline constexpr int kMaxMacros = 60;
 
+/// What a macro call in an expression begins with; the macro's name follows.
+inline constexpr std::wstring_view kMacroCallMark = L"M:";
+
 /// An argument type of macros: the stored text, the variables of its formula, what lists show
 /// behind a name, and what closes a call that a key inserts.
 struct MacroType {
@@ -41,6 +44,13 @@ struct Macro {
 
 /// A macro as lists show it: area(X,Y)
 std::wstring MacroLine(const Macro& macro);
+
+/// What a macro key puts before and behind the selection, the arguments: M:area( and  , )
+struct MacroCall {
+  std::wstring prefix;
+  std::wstring_view suffix;
+};
+MacroCall CallOf(const Macro& macro);
 
 /// The stored macros' names and types, in order. Every change is written to the store at once.
 class MacroTable {

@@ -2,6 +2,7 @@
 
 #include "display/SettingsLayout.h"
 #include "engine/NumberText.h"
+#include "toolkit/NumberBox.h"
 
 namespace vexa {
 
@@ -9,7 +10,11 @@ std::wstring MemoryVariables::Text(int index) const {
   return Read(store, settings::kMemoryVariable, index);
 }
 
-double MemoryVariables::Value(int index) const { return TextToDouble(Text(index)); }
+double MemoryVariables::Value(int index) const {
+  // The unit converter stores its results as it shows them, grouped at thousands.
+  const std::wstring text = Text(index);
+  return ReadNumberBox(text).value_or(TextToDouble(text));
+}
 
 std::wstring MemoryVariables::Line(int index) const {
   const std::wstring number = std::to_wstring(index + 1);

@@ -35,7 +35,8 @@ int DocumentPosition(std::wstring_view text, std::size_t position) {
 
 }  // namespace
 
-EditLine::EditLine(QWidget* parent) : QPlainTextEdit(parent) {
+EditLine::EditLine(QWidget* parent, std::size_t longest)
+    : QPlainTextEdit(parent), longestText(longest) {
   setTabChangesFocus(true);
   setWordWrapMode(QTextOption::WrapAnywhere);
 }
@@ -49,7 +50,7 @@ EditText EditLine::State() const {
 
 std::size_t EditLine::RoomFor(int start, int end) const {
   const int kept = document()->characterCount() - 1 - (end - start);
-  return kLongestLine - std::min(kLongestLine, static_cast<std::size_t>(std::max(kept, 0)));
+  return longestText - std::min(longestText, static_cast<std::size_t>(std::max(kept, 0)));
 }
 
 void EditLine::ApplyChange(const TextChange& change) {

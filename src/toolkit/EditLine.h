@@ -4,17 +4,19 @@
 #include <string>
 
 #include "toolkit/EditText.h"
+#include "toolkit/LineText.h"
 
 namespace vexa {
 
 /// An edit line of several rows that holds one line of plain text. Enter is left to the screen's
 /// default button, Tab moves the focus, pasted line breaks become blanks, and the text never grows
-/// beyond kLongestLine characters. Positions are characters of the wide text.
+/// beyond its longest length. Positions are characters of the wide text.
 class EditLine : public QPlainTextEdit {
   Q_OBJECT
 
  public:
-  explicit EditLine(QWidget* parent);
+  /// `longest`: the characters that the line holds.
+  explicit EditLine(QWidget* parent, std::size_t longest = kLongestLine);
 
   std::wstring Text() const { return toPlainText().toStdWString(); }
   /// The text with its selection.
@@ -34,6 +36,8 @@ class EditLine : public QPlainTextEdit {
  private:
   /// Characters that may replace those from `start` to `end`, in units of the document.
   std::size_t RoomFor(int start, int end) const;
+
+  std::size_t longestText;
 };
 
 }  // namespace vexa

@@ -3,12 +3,23 @@
 #include <cstddef>
 #include <string_view>
 
+#include "engine/CalcModes.h"
 #include "toolkit/EditText.h"
 
 namespace vexa {
 
-/// What a key is for; the theme gives each role its colours.
-enum class KeyRole { Digit, Operator, Function, Editing, Command, Equals };
+/// What a key is for; the theme gives each role its colours. The two Shift keys tell the visible
+/// layer at a glance.
+enum class KeyRole {
+  Digit,
+  Operator,
+  Function,
+  Editing,
+  Command,
+  Equals,
+  Shift,
+  ShiftActive
+};
 
 /// What a key puts into the edit line.
 struct KeyText {
@@ -46,14 +57,37 @@ constexpr KeyText FunctionKey(std::wstring_view call) {
           .suffix = L")"};
 }
 
-/// A key of a keypad. The caption is its name, for people, tests and assistive technology.
+/// The key of the n-th root: the number stands before it, and n goes before the last ")".
+constexpr KeyText RootKey() {
+  return {.text = L"^(1/)",
+          .caretFromEnd = 1,
+          .keepsSelection = true,
+          .prefix = L"(",
+          .suffix = L")^(1/)",
+          .wrappedCaretFromEnd = 1};
+}
+
+/// Where a key is shown, on each layer, and where it can be used.
+struct KeyPlaces {
+  BaseSet unshifted = kAllBases;
+  BaseSet shifted = kAllBases;
+  BaseSet enabled = kAllBases;
+};
+
+/// A key of a keypad. The caption is its name, for people, tests and assistive technology; keys that
+/// take each other's place share a cell.
 struct Key {
   std::wstring_view caption;
   KeyRole role;
   int row;
   int column;
-  int columnSpan = 1;
+  /// What the key does, in plain words.
+  std::wstring_view help{};
   KeyText inserts{};
+  KeyPlaces places{};
+  /// What is drawn instead of the caption: what stands in braces is raised.
+  std::wstring_view face{};
+  int columnSpan = 1;
   bool autoRepeat = false;
 };
 

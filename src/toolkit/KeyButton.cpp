@@ -1,10 +1,10 @@
 #include "toolkit/KeyButton.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 
 #include "display/WideText.h"
+#include "toolkit/FaceText.h"
 #include "toolkit/Theme.h"
 
 namespace vexa {
@@ -34,6 +34,8 @@ bool IsSign(const Key& key) {
           key.role == KeyRole::Equals);
 }
 
+QString FaceText(const Key& key) { return FromWide(key.face.empty() ? key.caption : key.face); }
+
 }  // namespace
 
 KeyButton::KeyButton(const Key& shownKey, QWidget* parent) : QPushButton(parent), key(shownKey) {
@@ -41,6 +43,7 @@ KeyButton::KeyButton(const Key& shownKey, QWidget* parent) : QPushButton(parent)
   setText(caption);
   setObjectName(caption);
   setAccessibleName(caption);
+  setToolTip(FromWide(key.help));
   setAutoRepeat(key.autoRepeat);
   setAutoDefault(false);
   setFocusPolicy(Qt::TabFocus);
@@ -62,7 +65,7 @@ QFont KeyButton::FaceFont() const {
   const qreal clamped = std::clamp(size, kSmallestText, kLargestText);
   QFont face = font();
   face.setPixelSize(qRound(clamped));
-  const qreal textWidth = QFontMetricsF(face).horizontalAdvance(text());
+  const qreal textWidth = face_text::Width(FaceText(key), face);
   const qreal room = width() * kRoomShareOfWidth;
   if (textWidth > room) {
     face.setPixelSize(qRound(std::max(kSmallestText, clamped * room / textWidth)));
@@ -83,11 +86,11 @@ void KeyButton::paintEvent(QPaintEvent*) {
 
   painter.setFont(FaceFont());
   painter.setPen(isEnabled() ? colours.text : colours.disabledText);
-  painter.drawText(face, Qt::AlignCenter | Qt::TextSingleLine, text());
+  face_text::Draw(painter, face, FaceText(key));
 
   if (hasFocus()) {
     const QRectF ring = face.adjusted(kFocusWidth, kFocusWidth, -kFocusWidth, -kFocusWidth);
-    painter.setPen(QPen(theme::FocusColour(palette()), kFocusWidth));
+    painter.setPen(QPen(colours.text, kFocusWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(ring, kCornerRadius - kFocusWidth, kCornerRadius - kFocusWidth);
   }

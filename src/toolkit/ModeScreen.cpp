@@ -30,20 +30,16 @@ ModeScreen::ModeScreen(Mode mode, QWidget* parent)
 }
 
 void ModeScreen::BuildFileMenu() {
-  struct FileCommand {
-    const char* text;
-    QKeySequence::StandardKey shortcut;
-    void (ModeScreen::*run)();
-  };
-  constexpr FileCommand kFileCommands[] = {
-      {"&About...", QKeySequence::UnknownKey, &ModeScreen::ShowAbout},
-      {"E&xit", QKeySequence::Quit, &ModeScreen::ExitChosen},
-  };
-  QMenu* const menu = menuBar->addMenu(QStringLiteral("&File"));
-  for (const FileCommand& command : kFileCommands) {
-    QAction* const action = menu->addAction(QString::fromLatin1(command.text), this, command.run);
-    action->setShortcuts(command.shortcut);
-  }
+  fileMenu = menuBar->addMenu(QStringLiteral("&File"));
+  exitAction = fileMenu->addAction(QStringLiteral("E&xit"), this, &ModeScreen::ExitChosen);
+  exitAction->setShortcuts(QKeySequence::Quit);
+  AddFileCommand(QStringLiteral("&About..."), this, &ModeScreen::ShowAbout);
+}
+
+QAction* ModeScreen::NewFileCommand(const QString& text) {
+  auto* const action = new QAction(text, fileMenu);
+  fileMenu->insertAction(exitAction, action);
+  return action;
 }
 
 void ModeScreen::BuildModeMenu(Mode mode) {

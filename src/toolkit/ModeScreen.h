@@ -1,10 +1,10 @@
 #pragma once
 
+#include <QAction>
 #include <QWidget>
 
 #include "toolkit/Modes.h"
 
-class QAction;
 class QMenu;
 class QMenuBar;
 class QPushButton;
@@ -28,6 +28,13 @@ class ModeScreen : public QWidget {
  protected:
   /// Enter runs `button`, whatever control has the focus.
   void SetDefaultButton(QPushButton* button);
+  /// Adds a command to the "File" menu, before "Exit".
+  template <typename Receiver>
+  QAction* AddFileCommand(const QString& text, Receiver* receiver, void (Receiver::*run)()) {
+    QAction* const action = NewFileCommand(text);
+    connect(action, &QAction::triggered, receiver, run);
+    return action;
+  }
   /// Adds a menu between "File" and "Mode".
   QMenu* AddMenu(const QString& title);
   /// The layout of the screen's controls, below the menus.
@@ -37,11 +44,14 @@ class ModeScreen : public QWidget {
 
  private:
   void BuildFileMenu();
+  QAction* NewFileCommand(const QString& text);
   void BuildModeMenu(Mode mode);
   void ShowAbout();
 
   QVBoxLayout* content;
   QMenuBar* menuBar;
+  QMenu* fileMenu = nullptr;
+  QAction* exitAction = nullptr;
   QAction* modeMenuAction = nullptr;
   QPushButton* defaultButton = nullptr;
 };

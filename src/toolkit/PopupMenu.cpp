@@ -15,17 +15,28 @@ QString MenuText(const std::wstring& text) {
   return caption;
 }
 
-QMenu* ShowPopupMenu(QWidget* owner, QPoint topRight, const std::vector<PopupCommand>& commands,
-                     std::function<void(int)> chosen) {
-  auto* menu = new QMenu(owner);
+QMenu* ShowPopupMenu(QWidget* owner, QPoint anchor, PopupSide side,
+                     const std::vector<PopupCommand>& commands, std::function<void(int)> chosen,
+                     const std::wstring& title) {
+  auto* const menu = new QMenu(owner);
   menu->setAttribute(Qt::WA_DeleteOnClose);
+  if (!title.empty()) {
+    menu->setTitle(MenuText(title));
+    menu->addAction(MenuText(title))->setEnabled(false);
+    menu->addSeparator();
+  }
   for (const PopupCommand& command : commands) {
-    menu->addAction(MenuText(command.caption))->setData(command.command);
+    if (command.caption.empty()) {
+      menu->addSeparator();
+    } else {
+      menu->addAction(MenuText(command.caption))->setData(command.command);
+    }
   }
   QObject::connect(
       menu, &QMenu::triggered, owner,
       [chosen = std::move(chosen)](const QAction* action) { chosen(action->data().toInt()); });
-  menu->popup(owner->mapToGlobal(topRight) - QPoint(menu->sizeHint().width(), 0));
+  const int leftward = side == PopupSide::Left ? menu->sizeHint().width() : 0;
+  menu->popup(owner->mapToGlobal(anchor) - QPoint(leftward, 0));
   return menu;
 }
 

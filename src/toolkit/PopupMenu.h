@@ -11,17 +11,21 @@ class QWidget;
 
 namespace vexa {
 
-/// A command of a pop-up menu and its text.
+/// A command of a pop-up menu and its text; an empty text is a separator.
 struct PopupCommand {
   int command;
   std::wstring caption;
 };
 
-/// Opens a menu of `commands`, from top to bottom, whose right upper corner is at `topRight` of
-/// `owner`, and returns at once; the menu deletes itself. `chosen` gets the chosen command, nothing
-/// when the menu is dismissed.
-QMenu* ShowPopupMenu(QWidget* owner, QPoint topRight, const std::vector<PopupCommand>& commands,
-                     std::function<void(int)> chosen);
+/// To which side of its anchor a pop-up menu opens.
+enum class PopupSide { Left, Right };
+
+/// Opens a menu of `commands`, from top to bottom and headed by `title` where there is one, whose
+/// upper corner is at `anchor` of `owner`, and returns at once; the menu deletes itself. `chosen`
+/// gets the chosen command, nothing when the menu is dismissed.
+QMenu* ShowPopupMenu(QWidget* owner, QPoint anchor, PopupSide side,
+                     const std::vector<PopupCommand>& commands, std::function<void(int)> chosen,
+                     const std::wstring& title = {});
 
 /// `text` as a menu shows it literally: "&" marks no shortcut, tabs and line breaks are blanks.
 QString MenuText(const std::wstring& text);

@@ -10,7 +10,7 @@ namespace {
 /// Text sizes in pixels. A single row is preferred while it stays readable at a glance.
 constexpr int kLargestText = 28;
 constexpr int kSmallestSingleRow = 13;
-constexpr int kSmallestText = 7;
+constexpr int kSmallestText = 6;
 constexpr qreal kMargin = 3;
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "toolkit/Theme.h"
 
+#include <QWidget>
 #include <array>
 
 namespace vexa::theme {
@@ -16,9 +17,9 @@ KeyColours Colours(QRgb face, QRgb pressedFace, QRgb text, QRgb disabledText, QR
 }
 
 /// Each row: face, pressed face, text, text of a key that is shown but inert, border.
-const std::array<RoleColours, 6>& Table() {
+const std::array<RoleColours, 8>& Table() {
   // clang-format off
-  static const std::array<RoleColours, 6> table{{
+  static const std::array<RoleColours, 8> table{{
       {KeyRole::Digit,    Colours(0xFFFFFF, 0xD9DCE2, 0x17191C, 0x8C9097, 0xC3C7CE),
                           Colours(0x43464D, 0x5A5E67, 0xFFFFFF, 0x8A8E96, 0x53575F)},
       {KeyRole::Operator, Colours(0xD9E5F8, 0xB7CCEE, 0x10305F, 0x7F93B5, 0xB3C6E4),
@@ -31,6 +32,11 @@ const std::array<RoleColours, 6>& Table() {
                           Colours(0x21432C, 0x2E5B3C, 0xD3F3DC, 0x7B9C85, 0x2E5B3C)},
       {KeyRole::Equals,   Colours(0x1F5BB5, 0x16448A, 0xFFFFFF, 0xB9C9E2, 0x1F5BB5),
                           Colours(0x2A66C4, 0x1F4F9B, 0xFFFFFF, 0xB9C9E2, 0x2A66C4)},
+      // Black and orange, exchanged on the shifted layer, whatever the desktop's colours.
+      {KeyRole::Shift,    Colours(0x000000, 0x3A3A3A, 0xFF8000, 0x9A6A3A, 0x000000),
+                          Colours(0x000000, 0x3A3A3A, 0xFF8000, 0x9A6A3A, 0x7A3D00)},
+      {KeyRole::ShiftActive, Colours(0xFF8000, 0xE07000, 0x000000, 0x8A4A0A, 0xD96C00),
+                          Colours(0xFF8000, 0xE07000, 0x000000, 0x8A4A0A, 0xD96C00)},
   }};
   // clang-format on
   return table;
@@ -53,8 +59,12 @@ const KeyColours& ColoursOf(KeyRole role, const QPalette& palette) {
   return IsDark(palette) ? found->dark : found->light;
 }
 
-QColor FocusColour(const QPalette& palette) {
-  return IsDark(palette) ? QColor(0xFF, 0xC8, 0x57) : QColor(0xA8, 0x4B, 0x00);
+void ShowOnLightBlue(QWidget* label) {
+  QPalette colours = label->palette();
+  colours.setColor(QPalette::Window, QColor(222, 231, 255));
+  colours.setColor(QPalette::WindowText, Qt::black);
+  label->setPalette(colours);
+  label->setAutoFillBackground(true);
 }
 
 QFont ProgramFont(const QFont& base) {

@@ -6,6 +6,8 @@
 
 #include "toolkit/Key.h"
 
+class QWidget;
+
 namespace vexa::theme {
 
 /// The colours of a key.
@@ -22,8 +24,9 @@ bool IsDark(const QPalette& palette);
 /// The colours of keys with `role` beside a window with `palette`'s colours. Text on either face
 /// has a contrast of at least 4.5 to 1.
 const KeyColours& ColoursOf(KeyRole role, const QPalette& palette);
-/// The frame that marks the key with the keyboard's focus.
-QColor FocusColour(const QPalette& palette);
+
+/// Draws `label` on the light blue that dialogs have behind their texts, in light and dark alike.
+void ShowOnLightBlue(QWidget* label);
 
 /// `base`, the desktop's own font, in "Tahoma" where that exists.
 QFont ProgramFont(const QFont& base);

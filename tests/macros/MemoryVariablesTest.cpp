@@ -4,7 +4,6 @@
 
 #include "display/MemorySettingsStore.h"
 #include "display/SettingsLayout.h"
-#include "macros/MemoryMenu.h"
 
 namespace vexa {
 namespace {
@@ -37,6 +36,13 @@ TEST(MemoryVariables, TextThatIsNoNumberIsZero) {
   EXPECT_EQ(variables.Line(3), L"Mem04 = hello");
 }
 
+TEST(MemoryVariables, GroupedTextIsReadWhole) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  variables.Store(0, L"-1,500,000.25");
+  EXPECT_EQ(variables.Value(0), -1500000.25);
+}
+
 TEST(MemoryVariables, ClearAllWritesEverySlot) {
   MemorySettingsStore store;
   MemoryVariables variables(store);
@@ -50,24 +56,6 @@ TEST(MemoryVariables, ClearAllWritesEverySlot) {
 TEST(MemoryVariables, Sentences) {
   EXPECT_EQ(MemoryVariables::kSelectMessage, L"Please select a memory variable");
   EXPECT_EQ(MemoryVariables::kClearQuestion, L"Are you sure you want to clear all variable?");
-}
-
-TEST(MemoryMenu, OrderAndNumbers) {
-  struct Item {
-    int number;
-    const wchar_t* caption;
-    bool needsResult;
-  };
-  constexpr Item kExpected[] = {{7, L"Memory +", true},       {6, L"Memory -", true},
-                                {5, L"Memory Recall", false}, {4, L"Memory Clear", false},
-                                {3, L"", false},              {2, L"ReCall MemVar", false},
-                                {1, L"Store MemVar", true}};
-  ASSERT_EQ(kMemoryMenu.size(), std::size(kExpected));
-  for (std::size_t i = 0; i < kMemoryMenu.size(); ++i) {
-    EXPECT_EQ(static_cast<int>(kMemoryMenu[i].command), kExpected[i].number);
-    EXPECT_EQ(kMemoryMenu[i].caption, kExpected[i].caption);
-    EXPECT_EQ(kMemoryMenu[i].needsResult, kExpected[i].needsResult);
-  }
 }
 
 }  // namespace

@@ -1,0 +1,116 @@
+// How long a start takes, from the start of the process until its window is painted whole, and how
+// much memory it needs, against a bare window of the same toolkit: startup CALCULATOR BARE [RUNS]
+//
+// Both are measured alike, on a display in memory that reports every drawing: a first run shows
+// what the display looks like in the end, and each measured run ends with the drawing that
+// completes just that picture, so a calculator that still says that it is loading does not count as
+// painted. The programs take turns, and the medians are compared.
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <stdexcept>
+#include <thread>
+
+#include "WatchedDisplay.h"
+
+using namespace vexa::bench;
+
+namespace {
+
+constexpr int kRuns = 21;
+constexpr double kTimeBound = 2.0;
+constexpr double kMemoryBound = 16.0;
+
+/// A program under measurement.
+struct Program {
+  std::string file;
+  FinishedPicture painted{};
+  std::vector<double> times{};     ///< ms
+  std::vector<double> memories{};  ///< MiB
+};
+
+double Median(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+/// The program finds a home with what an earlier run left there, and never the user's own.
+void UseHome(const std::filesystem::path& home) {
+  std::filesystem::remove_all(home);
+  std::filesystem::create_directories(home);
+  std::filesystem::permissions(home, std::filesystem::perms::owner_all);
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_CACHE_HOME"}) {
+    setenv(name, home.c_str(), 1);
+  }
+  setenv("QT_QPA_PLATFORM", "xcb", 1);
+}
+
+/// Learns what the program's window looks like. The first run leaves its settings for the others.
+void LearnPicture(WatchedDisplay& display, Program& program) {
+  for (int run = 0; run < 2; ++run) {
+    ChildProcess process({program.file});
+    program.painted = display.ReadFinished(Milliseconds(2000), Milliseconds(2000));
+    if (!process.IsRunning()) throw std::runtime_error(program.file + " ended by itself");
+    process.Terminate();
+    display.WaitFor(display.Empty());
+  }
+  if (display.Empty().Matches(program.painted.pixels)) {
+    throw std::runtime_error(program.file + " painted nothing");
+  }
+  WatchedDisplay::Save(
+      program.painted.pixels,
+      "startup-" + std::filesystem::path(program.file).filename().string() + ".ppm");
+}
+
+void Measure(WatchedDisplay& display, Program& program) {
+  const auto start = Clock::now();
+  ChildProcess process({program.file});
+  program.times.push_back(Milliseconds(display.WaitFor(program.painted) - start).count());
+  // What is still to be done for the first window belongs to the start's memory.
+  std::this_thread::sleep_for(Milliseconds(200));
+  program.memories.push_back(static_cast<double>(process.PeakMemory()) / 1024.0);
+  process.Terminate();
+  display.WaitFor(display.Empty());
+}
+
+void Compare(const std::string& calculatorFile, const std::string& bareFile, int runs) {
+  UseHome(std::filesystem::absolute("startup-home"));
+  WatchedDisplay display;
+  Program calculator{calculatorFile};
+  Program bare{bareFile};
+  LearnPicture(display, calculator);
+  LearnPicture(display, bare);
+  for (int run = 0; run < runs; ++run) {
+    Measure(display, calculator);
+    Measure(display, bare);
+  }
+
+  const double time = Median(calculator.times);
+  const double bareTime = Median(bare.times);
+  std::printf(
+      "start to painted window, medians of %d runs, each at most %.0f ms too long or short\n", runs,
+      display.LongestRead().count());
+  std::printf("calculator %.0f ms, bare window %.0f ms\n", time, bareTime);
+  std::printf("ratio start-up %.2f (bound %.2f)\n", time / bareTime, kTimeBound);
+  std::printf("peak memory above the bare window %.1f MiB (bound %.0f)\n",
+              Median(calculator.memories) - Median(bare.memories), kMemoryBound);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) {
+    std::fprintf(stderr, "startup CALCULATOR BARE [RUNS]\n");
+    return EXIT_FAILURE;
+  }
+  try {
+    Compare(argv[1], argv[2], argc > 3 ? std::max(1, std::atoi(argv[3])) : kRuns);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "startup: %s\n", failure.what());
+    return EXIT_FAILURE;
+  }
+}

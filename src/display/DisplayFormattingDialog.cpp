@@ -1,0 +1,62 @@
+#include "display/DisplayFormattingDialog.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "display/WideText.h"
+#include "toolkit/MessageBox.h"
+#include "toolkit/Theme.h"
+#include "toolkit/TouchSize.h"
+
+namespace vexa {
+
+DisplayFormattingDialog::DisplayFormattingDialog(DisplayType type, int decimals, QWidget* parent)
+    : Dialog(QStringLiteral("DisplayFormatting"), parent),
+      displayType(type),
+      decimalPlaces(decimals),
+      choices(new QButtonGroup(this)),
+      decimalsBox(new QLineEdit(QString::number(decimals), this)) {
+  theme::ShowOnLightBlue(AddLabel(L"Display Formatting"));
+  for (const DisplayChoice& choice : kDisplayChoices) {
+    auto* const button = new QRadioButton(FromWide(choice.caption), this);
+    button->setObjectName(FromWide(choice.caption));
+    button->setMinimumHeight(kTouchHeight);
+    button->setChecked(choice.type == type);
+    choices->addButton(button, static_cast<int>(choice.type));
+    Content()->addWidget(button);
+  }
+  decimalsBox->setMinimumHeight(kTouchHeight);
+  theme::ShowOnLightBlue(AddField(L"Number of decimal places", decimalsBox));
+  QHBoxLayout* const row = AddButtonRow();
+  SetDefault(AddButton(row, L"OK", this, &DisplayFormattingDialog::accept));
+  AddButton(row, L"Cancel", this, &DisplayFormattingDialog::reject);
+  connect(choices, &QButtonGroup::idClicked, this, &DisplayFormattingDialog::EnableDecimals);
+  EnableDecimals();
+}
+
+DisplayType DisplayFormattingDialog::ChosenType() const {
+  const int chosen = choices->checkedId();
+  return chosen < 0 ? displayType : static_cast<DisplayType>(chosen);
+}
+
+void DisplayFormattingDialog::EnableDecimals() {
+  decimalsBox->setEnabled(HasDecimalPlaces(ChosenType()));
+}
+
+void DisplayFormattingDialog::accept() {
+  const std::wstring sentence =
+      ReadDecimalPlaces(decimalsBox->text().toStdWString(), decimalPlaces);
+  if (sentence.empty()) {
+    displayType = ChosenType();
+    Dialog::accept();
+    return;
+  }
+  decimalsBox->setText(QString::number(decimalPlaces));
+  ShowErrorBox(this, sentence, [this] { decimalsBox->setFocus(); });
+}
+
+}  // namespace vexa

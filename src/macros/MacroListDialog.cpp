@@ -1,0 +1,49 @@
+#include "macros/MacroListDialog.h"
+
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+
+#include "display/WideText.h"
+#include "toolkit/TouchList.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kOpeningHeight = 380;
+constexpr int kFormulaHeight = 70;
+
+}  // namespace
+
+MacroListDialog::MacroListDialog(SettingsStore& store, QWidget* parent)
+    : Dialog(QStringLiteral("MacroList"), parent),
+      macros(store),
+      list(new TouchList(this)),
+      formula(new QPlainTextEdit(this)) {
+  macros.LoadMacroTable();
+  AddField(L"Macro List", list, 1);
+  for (int i = 0; i < macros.Count(); ++i) list->AddLine(FromWide(MacroLine(macros.At(i))));
+  formula->setObjectName(QStringLiteral("Macro Expression"));
+  formula->setAccessibleName(QStringLiteral("Macro Expression"));
+  formula->setReadOnly(true);
+  formula->setFixedHeight(kFormulaHeight);
+  Content()->addWidget(formula);
+  QHBoxLayout* const row = AddButtonRow();
+  AddButton(row, L"OK", this, &MacroListDialog::Pick);
+  SetDefault(AddButton(row, L"Cancel", this, &MacroListDialog::reject));
+  connect(list, &QListWidget::currentRowChanged, this, &MacroListDialog::ShowFormula);
+  connect(list, &QListWidget::itemDoubleClicked, this, &MacroListDialog::Pick);
+  resize(width(), kOpeningHeight);
+  list->setCurrentRow(0);
+  list->setFocus();
+}
+
+void MacroListDialog::ShowFormula(int index) {
+  formula->setPlainText(index < 0 ? QString() : FromWide(macros.ReadFormula(index)));
+}
+
+void MacroListDialog::Pick() {
+  if (list->currentRow() >= 0) emit Picked(list->currentRow());
+  accept();
+}
+
+}  // namespace vexa

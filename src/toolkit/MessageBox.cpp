@@ -1,0 +1,39 @@
+#include "toolkit/MessageBox.h"
+
+#include <QMessageBox>
+#include <utility>
+
+#include "display/SettingsLayout.h"
+#include "display/WideText.h"
+
+namespace vexa {
+namespace {
+
+QMessageBox* NewBox(QWidget* parent, QMessageBox::Icon icon, const std::wstring& text,
+                    QMessageBox::StandardButtons buttons) {
+  auto* const box =
+      new QMessageBox(icon, FromWide(settings::kSettingsKey), FromWide(text), buttons, parent);
+  box->setTextFormat(Qt::PlainText);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  return box;
+}
+
+}  // namespace
+
+void ShowErrorBox(QWidget* parent, const std::wstring& sentence, std::function<void()> closed) {
+  QMessageBox* const box = NewBox(parent, QMessageBox::Critical, sentence, QMessageBox::Ok);
+  QObject::connect(box, &QMessageBox::finished, parent, std::move(closed));
+  box->open();
+}
+
+void AskYesNo(QWidget* parent, const std::wstring& question, std::function<void()> yes) {
+  QMessageBox* const box =
+      NewBox(parent, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No);
+  box->setDefaultButton(QMessageBox::No);
+  QObject::connect(box, &QMessageBox::finished, parent, [yes = std::move(yes)](int answer) {
+    if (answer == QMessageBox::Yes) yes();
+  });
+  box->open();
+}
+
+}  // namespace vexa

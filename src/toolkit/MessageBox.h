@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+class QWidget;
+
+namespace vexa {
+
+/// Shows `sentence` with the error icon over `parent`; `closed` runs when the user has closed it,
+/// for example to give the focus to the field at fault.
+void ShowErrorBox(QWidget* parent, const std::wstring& sentence,
+                  std::function<void()> closed = [] {});
+
+/// Asks `question` with the question icon, answers "Yes" and "No" (the default); `yes` runs when
+/// the user agrees.
+void AskYesNo(QWidget* parent, const std::wstring& question, std::function<void()> yes);
+
+}  // namespace vexa

@@ -1,0 +1,19 @@
+# The rules of settings file, keys and window, and everything that needs the toolkit.
+vexa_rule_test(store_rules_test display/IniTextTest.cpp display/Utf8Test.cpp)
+vexa_rule_test(toolkit_rules_test
+  toolkit/KeyTest.cpp
+  toolkit/LineTextTest.cpp
+  toolkit/ModesTest.cpp)
+vexa_rule_test(app_window_rules_test app/CalculatorKeypadTest.cpp app/WindowPlaceTest.cpp)
+
+vexa_screen_test(file_settings_store_test display/FileSettingsStoreTest.cpp)
+vexa_screen_test(edit_line_test toolkit/EditLineTest.cpp)
+vexa_screen_test(result_line_test toolkit/ResultLineTest.cpp)
+vexa_screen_test(theme_test toolkit/ThemeTest.cpp)
+vexa_screen_test(calculator_screen_test app/CalculatorScreenTest.cpp)
+vexa_screen_test(main_frame_test app/MainFrameTest.cpp)
+vexa_screen_test(single_instance_test app/SingleInstanceTest.cpp)
+
+vexa_screen_test(process_test app/ProcessTest.cpp)
+target_compile_definitions(process_test PRIVATE VEXA_PROGRAM="$<TARGET_FILE:vexa-calculator>")
+add_dependencies(process_test vexa-calculator)

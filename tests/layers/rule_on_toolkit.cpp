@@ -1,0 +1,5 @@
+#include <QString>
+
+QString Sentence() {
+  return QStringLiteral("a rule never speaks the toolkit's language");
+}
