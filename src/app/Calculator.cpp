@@ -53,9 +53,11 @@ void Calculator::Save() const {
 }
 
 void Calculator::Evaluate(std::wstring_view editText) {
+  // Copied first: it may be an entry of the history or another text that changes here.
+  const std::wstring typed(editText);
   lastError.clear();
   answer = 0.0;
-  const std::wstring_view expression = Trimmed(editText);
+  const std::wstring_view expression = Trimmed(typed);
   if (expression.empty()) {
     lastError = kNoExpression;
     resultLine = kNullExpression;
@@ -72,16 +74,16 @@ void Calculator::Evaluate(std::wstring_view editText) {
     engine.baseMode = baseType;
     engine.EvaluateExpression(expansion.expression);
     if (!engine.errorText.empty()) {
-      history.AddHistory(editText);
+      history.AddHistory(typed);
       return ShowError(engine.errorText);
     }
     value = engine.result;
   }
   answer = value;
   ShowAnswer();
-  if (history.IsEmpty() || history.At(history.Count()) != editText) {
+  if (history.IsEmpty() || history.At(history.Count()) != typed) {
     history.AddHistory(ResultEntry(baseType, resultLine));
-    history.AddHistory(editText);
+    history.AddHistory(typed);
   }
 }
 
