@@ -122,11 +122,14 @@ void MainFrame::RestorePlace() {
   if (areas.empty()) return;
   const WindowPlace place = FittedPlace(LoadWindowPlace(store), areas);
   setMinimumSize(std::min(kLayoutWidth, place.width), std::min(kLayoutHeight, place.height));
-  setGeometry(place.left, place.top, place.width, place.height);
+  // The position counts the window's title, so that it stays on the screen.
+  resize(place.width, place.height);
+  move(place.left, place.top);
 }
 
 void MainFrame::SavePlace() {
-  SaveWindowPlace(store, PlaceOf(normalGeometry()));
+  const bool isLarge = isMaximized() || isFullScreen();
+  SaveWindowPlace(store, PlaceOf(isLarge ? normalGeometry() : QRect(pos(), size())));
 }
 
 }  // namespace vexa

@@ -20,20 +20,16 @@ Keypad::Keypad(std::span<const Key> keyTable, QWidget* parent)
     const int index = static_cast<int>(buttons.size());
     auto* button = new KeyButton(key, this);
     connect(button, &KeyButton::clicked, this, [this, index] { emit KeyPressed(index); });
-    AddCell(button, key.row, key.column, key.columnSpan);
+    AddCell(button, key);
     buttons.push_back(button);
   }
 }
 
-void Keypad::AddCell(QWidget* control, int row, int column, int columnSpan) {
-  grid->addWidget(control, row, column, 1, columnSpan);
+void Keypad::AddCell(QWidget* button, const Key& key) {
+  grid->addWidget(button, key.row, key.column, 1, key.columnSpan);
   // Even cells, whatever stands in them; rows without a key take no place.
-  grid->setRowStretch(row, 1);
-  for (int n = column; n < column + columnSpan; ++n) grid->setColumnStretch(n, 1);
-}
-
-void Keypad::PlaceControl(QWidget* control, int row, int column) {
-  AddCell(control, row, column, 1);
+  grid->setRowStretch(key.row, 1);
+  for (int n = key.column; n < key.column + key.columnSpan; ++n) grid->setColumnStretch(n, 1);
 }
 
 void Keypad::Refresh(const KeyTest& isShown, const KeyTest& isEnabled) {

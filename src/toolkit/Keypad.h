@@ -25,8 +25,6 @@ class Keypad : public QWidget {
   /// `keys` must outlive the keypad.
   Keypad(std::span<const Key> keys, QWidget* parent);
 
-  /// Puts another control into a free cell.
-  void PlaceControl(QWidget* control, int row, int column);
   /// Shows and enables the keys as the tests say. Keys that share a cell: at most one is shown.
   void Refresh(const KeyTest& isShown, const KeyTest& isEnabled);
   /// The button with this caption, or null.
@@ -37,7 +35,7 @@ class Keypad : public QWidget {
   void KeyPressed(int index);
 
  private:
-  void AddCell(QWidget* control, int row, int column, int columnSpan);
+  void AddCell(QWidget* button, const Key& key);
 
   std::span<const Key> keys;
   std::vector<KeyButton*> buttons;

@@ -401,9 +401,9 @@ void CalculatorScreenTest::PbListsTheNewestFirst() {
   QVERIFY(menu);
   QStringList captions;
   for (const QAction* action : menu->actions()) captions += action->text();
-  QCOMPARE(captions, (QStringList{QStringLiteral("1111111111+922..."),
-                                  QStringLiteral("=[D]10,333,333..."), QStringLiteral("1000+234"),
-                                  QStringLiteral("=[D]1,234")}));
+  QCOMPARE(captions,
+           (QStringList{QStringLiteral("1111111111+922..."), QStringLiteral("=[D]10,333,333..."),
+                        QStringLiteral("1000+234"), QStringLiteral("=[D]1,234")}));
   // The whole entry comes back, in place of the selection.
   menu->setActiveAction(menu->actions().first());
   QTest::keyClick(menu, Qt::Key_Return);
@@ -425,7 +425,7 @@ void CalculatorScreenTest::PbDismissedDoesNothing() {
   QTest::keyClick(menu, Qt::Key_Escape);
   QTRY_VERIFY(!screen->findChild<QMenu*>(QStringLiteral("History")));
   QCOMPARE(edit->toPlainText(), QStringLiteral("1+1"));
-  QTRY_VERIFY(edit->hasFocus());
+  QCOMPARE(screen->focusWidget(), edit);
 }
 
 void CalculatorScreenTest::PbShowsCaptionsLiterally() {

@@ -1,1 +1,252 @@
+#include "app/MainFrame.h"
 
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "app/CalculatorScreen.h"
+#include "app/WindowPlace.h"
+#include "display/MemorySettingsStore.h"
+#include "toolkit/ComingScreen.h"
+#include "toolkit/EditLine.h"
+
+namespace vexa {
+
+class MainFrameTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void LoadingIsPaintedFifteenUnitsIn();
+  void TheFirstPaintCreatesTheStoredScreen_data();
+  void TheFirstPaintCreatesTheStoredScreen();
+  void MenusSwitchModes();
+  void TheNewScreenIsShownBeforeTheOldOneGoes();
+  void SwitchingKeepsSettingsAndForgetsTheAnswer();
+  void SwitchingToTheSameModeKeepsTheScreen();
+  void ExitHidesThenCloses();
+  void ClosingTheWindowEnds();
+  void PlaceAndSizeAreRemembered();
+  void HostilePlacesAreHarmless();
+  void ScreensFillTheFrame();
+  void ComesToTheFrontWhenMinimised();
+  void ThePopUpComesToTheFront();
+
+ private:
+  void Open();
+  int StoredMode() const { return store->ReadSettingInt(L"Config", L"Mode", 0); }
+  void Choose(const QString& menuTitle, const QString& text);
+  QString Notice() const {
+    const auto* notice = frame->findChild<QLabel*>(QStringLiteral("Notice"));
+    return notice ? notice->text() : QString();
+  }
+
+  std::unique_ptr<MemorySettingsStore> store;
+  std::unique_ptr<MainFrame> frame;
+};
+
+void MainFrameTest::init() {
+  frame.reset();
+  store = std::make_unique<MemorySettingsStore>();
+}
+
+void MainFrameTest::Open() {
+  frame.reset();
+  frame = std::make_unique<MainFrame>(*store);
+  frame->show();
+  QTRY_VERIFY(frame->findChild<ModeScreen*>());
+}
+
+void MainFrameTest::Choose(const QString& menuTitle, const QString& text) {
+  for (const QAction* menu : frame->findChild<QMenuBar*>()->actions()) {
+    if (menu->text().remove(u'&') != menuTitle) continue;
+    for (QAction* action : menu->menu()->actions()) {
+      if (action->text().remove(u'&') == text) return action->trigger();
+    }
+  }
+  QFAIL(qPrintable(text));
+}
+
+void MainFrameTest::LoadingIsPaintedFifteenUnitsIn() {
+  frame = std::make_unique<MainFrame>(*store);
+  QCOMPARE(frame->objectName(), QStringLiteral("VexaMain"));
+  QCOMPARE(frame->windowTitle(), QStringLiteral("Vexa Calculator"));
+  const QImage image = frame->grab().toImage();
+  const QRgb background = image.pixel(0, 0);
+  QRect inked;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixel(x, y) != background) inked |= QRect(x, y, 1, 1);
+    }
+  }
+  QVERIFY(inked.isValid());
+  QVERIFY(inked.left() >= 15 && inked.left() < 20);
+  QVERIFY(inked.top() >= 15 && inked.bottom() < 15 + frame->fontMetrics().height());
+  // The paint asked for the screen, but did not create it.
+  QVERIFY(!frame->findChild<ModeScreen*>());
+  QTRY_VERIFY(frame->findChild<CalculatorScreen*>());
+}
+
+void MainFrameTest::TheFirstPaintCreatesTheStoredScreen_data() {
+  QTest::addColumn<int>("mode");
+  QTest::addColumn<QString>("notice");
+  const QString oneVar = QStringLiteral("1-Var Statistics is not there yet.");
+  const QString twoVar = QStringLiteral("2-Var Statistics is not there yet.");
+  QTest::newRow("1") << 1 << QString();
+  QTest::newRow("2") << 2 << QStringLiteral("Function Plotter is not there yet.");
+  QTest::newRow("3") << 3 << oneVar;
+  QTest::newRow("4") << 4 << twoVar;
+  for (const int mode : {0, 9, -1, 2147483647}) QTest::addRow("%d", mode) << mode << twoVar;
+}
+
+void MainFrameTest::TheFirstPaintCreatesTheStoredScreen() {
+  QFETCH(int, mode);
+  QFETCH(QString, notice);
+  store->WriteSettingInt(L"Config", L"Mode", mode);
+  Open();
+  QCOMPARE(frame->findChildren<ModeScreen*>().size(), qsizetype{1});
+  QCOMPARE(Notice(), notice);
+  frame.reset();
+  // The code stays as it was given.
+  QCOMPARE(StoredMode(), mode);
+}
+
+void MainFrameTest::MenusSwitchModes() {
+  Open();
+  const std::pair<const char*, int> modes[] = {{"Function Plotter", 2},
+                                               {"1-Var Statistics", 3},
+                                               {"2-Var Statistics", 4},
+                                               {"Scientific Calculator", 1}};
+  for (const auto& [name, code] : modes) {
+    const QPointer<ModeScreen> old = frame->findChild<ModeScreen*>();
+    Choose(QStringLiteral("Mode"), QString::fromLatin1(name));
+    QTRY_VERIFY(!old);
+    QCOMPARE(frame->findChildren<ModeScreen*>().size(), qsizetype{1});
+    QVERIFY(frame->findChild<ModeScreen*>()->isVisible());
+    QCOMPARE(Notice().isEmpty(), code == 1);
+    QVERIFY(Notice().isEmpty() || Notice().startsWith(QString::fromLatin1(name)));
+  }
+  Choose(QStringLiteral("Mode"), QStringLiteral("1-Var Statistics"));
+  QTRY_VERIFY(Notice().startsWith(QStringLiteral("1-Var")));
+  frame.reset();
+  QCOMPARE(StoredMode(), 3);
+}
+
+void MainFrameTest::TheNewScreenIsShownBeforeTheOldOneGoes() {
+  Open();
+  bool newWasVisible = false;
+  connect(frame->findChild<CalculatorScreen*>(), &QObject::destroyed, this, [&] {
+    const auto* coming = frame->findChild<ComingScreen*>();
+    newWasVisible = coming && coming->isVisible();
+  });
+  frame->SwitchMode(2);
+  QVERIFY(newWasVisible);
+  QVERIFY(!frame->findChild<CalculatorScreen*>());
+}
+
+void MainFrameTest::SwitchingKeepsSettingsAndForgetsTheAnswer() {
+  Open();
+  QTest::keyClicks(frame->findChild<EditLine*>(), QStringLiteral("2+3"));
+  QTest::keyClick(frame->findChild<EditLine*>(), Qt::Key_Return);
+  QTest::mouseClick(frame->findChild<QWidget*>(QStringLiteral("DEG")), Qt::LeftButton);
+  frame->SwitchMode(2);
+  QCOMPARE(store->ReadSettingInt(L"Config", L"Angle Type", 0), 2);
+  frame->SwitchMode(1);
+  QVERIFY(frame->findChild<QWidget*>(QStringLiteral("RAD"))->isVisible());
+  QVERIFY(frame->findChild<QWidget*>(QStringLiteral("PB"))->isEnabled());
+  QCOMPARE(frame->findChild<QPlainTextEdit*>(QStringLiteral("Result"))->toPlainText(),
+           QStringLiteral("0"));
+  QVERIFY(frame->findChild<EditLine*>()->Text().empty());
+  QCOMPARE(frame->focusWidget(), frame->findChild<EditLine*>());
+}
+
+void MainFrameTest::SwitchingToTheSameModeKeepsTheScreen() {
+  Open();
+  const auto* screen = frame->findChild<CalculatorScreen*>();
+  frame->SwitchMode(1);
+  QCOMPARE(frame->findChild<CalculatorScreen*>(), screen);
+  frame->SwitchMode(9);
+  const auto* statistics = frame->findChild<ComingScreen*>();
+  frame->SwitchMode(4);
+  QCOMPARE(frame->findChild<ComingScreen*>(), statistics);
+}
+
+void MainFrameTest::ExitHidesThenCloses() {
+  Open();
+  bool wasHidden = false;
+  connect(frame.get(), &MainFrame::Closed, this, [&] { wasHidden = !frame->isVisible(); });
+  QSignalSpy closed(frame.get(), &MainFrame::Closed);
+  Choose(QStringLiteral("File"), QStringLiteral("Exit"));
+  QTRY_COMPARE(closed.size(), qsizetype{1});
+  QVERIFY(wasHidden);
+}
+
+void MainFrameTest::ClosingTheWindowEnds() {
+  Open();
+  QSignalSpy closed(frame.get(), &MainFrame::Closed);
+  frame->close();
+  QCOMPARE(closed.size(), qsizetype{1});
+}
+
+void MainFrameTest::PlaceAndSizeAreRemembered() {
+  Open();
+  frame->resize(300, 400);
+  frame->move(50, 60);
+  QTRY_COMPARE(frame->pos(), QPoint(50, 60));
+  frame->Exit();
+  frame.reset();
+  QCOMPARE(LoadWindowPlace(*store), (WindowPlace{50, 60, 300, 400}));
+  Open();
+  QCOMPARE(frame->size(), QSize(300, 400));
+  QCOMPARE(frame->pos(), QPoint(50, 60));
+}
+
+void MainFrameTest::HostilePlacesAreHarmless() {
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  for (const int value : {2147483647, -1, -2147483647 - 1}) {
+    SaveWindowPlace(*store, {value, value, value, value});
+    Open();
+    QVERIFY(screen.contains(QRect(frame->pos(), frame->size())));
+    frame.reset();
+  }
+}
+
+void MainFrameTest::ScreensFillTheFrame() {
+  Open();
+  for (const QSize size : {QSize(240, 320), QSize(600, 700)}) {
+    frame->resize(size);
+    QTRY_COMPARE(frame->findChild<ModeScreen*>()->geometry(), frame->rect());
+  }
+  frame->SwitchMode(3);
+  QCOMPARE(frame->findChild<ModeScreen*>()->geometry(), frame->rect());
+}
+
+void MainFrameTest::ComesToTheFrontWhenMinimised() {
+  Open();
+  frame->showMinimized();
+  QTRY_VERIFY(frame->isMinimized());
+  frame->BringToFront();
+  QTRY_VERIFY(!frame->isMinimized() && frame->isVisible());
+  QTRY_VERIFY(frame->isActiveWindow());
+}
+
+void MainFrameTest::ThePopUpComesToTheFront() {
+  Open();
+  Choose(QStringLiteral("File"), QStringLiteral("About..."));
+  auto* box = frame->findChild<QWidget*>(QStringLiteral("About"));
+  QVERIFY(box);
+  QWidget other;
+  other.show();
+  QVERIFY(QTest::qWaitForWindowExposed(&other));
+  frame->BringToFront();
+  QTRY_VERIFY(box->isActiveWindow());
+  box->close();
+}
+
+}  // namespace vexa
+
+QTEST_MAIN(vexa::MainFrameTest)
+#include "MainFrameTest.moc"

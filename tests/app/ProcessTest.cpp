@@ -1,1 +1,300 @@
+#include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "display/IniText.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kPatienceMs = 60000;
+
+QByteArray Bytes(const QString& fileName) {
+  QFile file(fileName);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The value of a "name: value" line of the process's state.
+QByteArray StatusLine(qint64 process, const QByteArray& name) {
+  const QByteArray status = Bytes(QStringLiteral("/proc/%1/status").arg(process));
+  for (const QByteArray& line : status.split('\n')) {
+    if (line.startsWith(name + ':')) return line.mid(name.size() + 1).trimmed();
+  }
+  return {};
+}
+
+/// True once the program handles termination signals itself.
+bool HandlesSignals(qint64 process) {
+  const quint64 caught = StatusLine(process, "SigCgt").toULongLong(nullptr, 16);
+  return caught & (quint64{1} << (SIGTERM - 1));
+}
+
+}  // namespace
+
+/// The program as a process of its own, with folders of its own.
+class ProcessTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup();
+  void ASecondStartEndsWithStatusZero();
+  void OfManyStartsAtOnceOneSurvives();
+  void TerminationSavesEverything_data();
+  void TerminationSavesEverything();
+  void TheStoreOfAnEarlierRunIsFound();
+  void AKillBlocksNothing();
+  void AKillWhileSavingLeavesOldOrNew();
+  void ADamagedStoreIsKept();
+  void AnIgnoredHangupStaysIgnored();
+
+ private:
+  QProcess* Start(const QString& launcher = {});
+  /// Waits until the program shows its screen and has nothing left to do.
+  void WaitUntilIdle(const QProcess& process);
+  void End(QProcess* process, int signalNumber);
+  QString StoreName() const {
+    return dir->filePath(QStringLiteral("config/Vexa Calculator/settings.ini"));
+  }
+  void PutStore(const QByteArray& bytes) const;
+  IniValues Stored() const {
+    const QByteArray bytes = Bytes(StoreName());
+    return ParseIni({bytes.constData(), static_cast<std::size_t>(bytes.size())})
+        .value_or(IniValues{{{L"damaged", L""}, L""}});
+  }
+
+  std::unique_ptr<QTemporaryDir> dir;
+  std::vector<std::unique_ptr<QProcess>> processes;
+};
+
+void ProcessTest::init() {
+  dir = std::make_unique<QTemporaryDir>();
+  const QString runtime = dir->filePath(QStringLiteral("runtime"));
+  QVERIFY(QDir().mkpath(runtime));
+  QCOMPARE(chmod(QFile::encodeName(runtime).constData(), 0700), 0);
+}
+
+void ProcessTest::cleanup() {
+  for (auto& process : processes) {
+    if (process->state() == QProcess::NotRunning) continue;
+    process->kill();
+    process->waitForFinished(kPatienceMs);
+  }
+  processes.clear();
+}
+
+QProcess* ProcessTest::Start(const QString& launcher) {
+  processes.push_back(std::make_unique<QProcess>());
+  QProcess* process = processes.back().get();
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+  environment.insert(QStringLiteral("XDG_CONFIG_HOME"), dir->filePath(QStringLiteral("config")));
+  environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir->filePath(QStringLiteral("runtime")));
+  process->setProcessEnvironment(environment);
+  process->setProcessChannelMode(QProcess::ForwardedChannels);
+  const QString program = QStringLiteral(VEXA_PROGRAM);
+  if (launcher.isEmpty()) {
+    process->start(program, QStringList());
+  } else {
+    process->start(QStringLiteral("/bin/sh"),
+                   {QStringLiteral("-c"), launcher + QStringLiteral(" exec \"$0\""), program});
+  }
+  process->waitForStarted(kPatienceMs);
+  return process;
+}
+
+void ProcessTest::WaitUntilIdle(const QProcess& process) {
+  QTRY_VERIFY_WITH_TIMEOUT(HandlesSignals(process.processId()), kPatienceMs);
+  // Asleep, and woken by nothing, for a while: the first screen is there.
+  constexpr int kQuietChecks = 6;
+  constexpr int kCheckMs = 50;
+  int quiet = 0;
+  QByteArray switches;
+  for (int waited = 0; quiet < kQuietChecks && waited < kPatienceMs; waited += kCheckMs) {
+    QTest::qWait(kCheckMs);
+    const QByteArray now = StatusLine(process.processId(), "voluntary_ctxt_switches") +
+                           StatusLine(process.processId(), "nonvoluntary_ctxt_switches") +
+                           StatusLine(process.processId(), "State").left(1);
+    quiet = now == switches && now.endsWith('S') ? quiet + 1 : 0;
+    switches = now;
+  }
+  QCOMPARE(quiet, kQuietChecks);
+}
+
+void ProcessTest::End(QProcess* process, int signalNumber) {
+  QCOMPARE(kill(static_cast<pid_t>(process->processId()), signalNumber), 0);
+  QVERIFY(process->waitForFinished(kPatienceMs));
+}
+
+void ProcessTest::PutStore(const QByteArray& bytes) const {
+  QVERIFY(QDir().mkpath(QFileInfo(StoreName()).path()));
+  QFile file(StoreName());
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  QCOMPARE(file.write(bytes), bytes.size());
+}
+
+void ProcessTest::ASecondStartEndsWithStatusZero() {
+  QProcess* first = Start();
+  WaitUntilIdle(*first);
+  for (int n = 0; n < 3; ++n) {
+    QProcess* second = Start();
+    QVERIFY(second->waitForFinished(kPatienceMs));
+    QCOMPARE(second->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(second->exitCode(), 0);
+  }
+  QCOMPARE(first->state(), QProcess::Running);
+  End(first, SIGTERM);
+  QCOMPARE(first->exitCode(), 0);
+}
+
+void ProcessTest::OfManyStartsAtOnceOneSurvives() {
+  constexpr std::size_t kStarts = 6;
+  for (std::size_t n = 0; n < kStarts; ++n) Start();
+  const auto running = [this] {
+    return std::ranges::count_if(
+        processes, [](const auto& process) { return process->state() == QProcess::Running; });
+  };
+  QTRY_COMPARE_WITH_TIMEOUT(running(), 1, kPatienceMs);
+  for (const auto& process : processes) {
+    if (process->state() == QProcess::Running) {
+      WaitUntilIdle(*process);
+      QCOMPARE(running(), 1);
+      End(process.get(), SIGTERM);
+    }
+    QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process->exitCode(), 0);
+  }
+}
+
+void ProcessTest::TerminationSavesEverything_data() {
+  QTest::addColumn<int>("signalNumber");
+  QTest::newRow("SIGTERM") << SIGTERM;
+  QTest::newRow("SIGINT") << SIGINT;
+  QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void ProcessTest::TerminationSavesEverything() {
+  QFETCH(int, signalNumber);
+  PutStore(
+      "[Config]\nAngle Type=2\n[History]\nCalHistoryCount=25\nCalHistory1=1+1\n"
+      "[Macro7]\nName=kept\n");
+  QProcess* process = Start();
+  WaitUntilIdle(*process);
+  End(process, signalNumber);
+  QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+  QCOMPARE(process->exitCode(), 0);
+
+  IniValues stored = Stored();
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> expected[] = {
+      {L"Config", L"Mode", L"1"},
+      {L"Config", L"Angle Type", L"2"},
+      {L"Config", L"Base Type", L"1"},
+      {L"Config", L"Display Type", L"3"},
+      {L"Config", L"Precision", L"5"},
+      {L"Convert", L"ClassPos", L"-1"},
+      {L"Convert", L"InputTypePos", L"-1"},
+      {L"Convert", L"OutputTypePos", L"-1"},
+      {L"History", L"CalHistoryCount", L"10"},
+      {L"History", L"CalHistory1", L"1+1"},
+      {L"Macro7", L"Name", L"kept"},
+  };
+  for (const auto& [section, entry, text] : expected) {
+    const std::wstring value = stored[{section, entry}];
+    QVERIFY2(value == text, qPrintable(QString::fromWCharArray(entry)));
+  }
+  QVERIFY((stored.contains({L"Window", L"Width"})));
+}
+
+void ProcessTest::TheStoreOfAnEarlierRunIsFound() {
+  PutStore("[Config]\nMode=9\n");
+  for (int run = 0; run < 2; ++run) {
+    QProcess* process = Start();
+    WaitUntilIdle(*process);
+    End(process, SIGTERM);
+    QCOMPARE(process->exitCode(), 0);
+    const IniValues stored = Stored();
+    QVERIFY((stored.at({L"Config", L"Mode"}) == L"9"));
+    // The screen of another mode leaves the calculator's settings alone.
+    QVERIFY(!(stored.contains({L"Config", L"Angle Type"})));
+  }
+}
+
+void ProcessTest::AKillBlocksNothing() {
+  for (int n = 0; n < 3; ++n) {
+    QProcess* process = Start();
+    WaitUntilIdle(*process);
+    End(process, SIGKILL);
+    QCOMPARE(process->exitStatus(), QProcess::CrashExit);
+  }
+  QProcess* process = Start();
+  WaitUntilIdle(*process);
+  QCOMPARE(process->state(), QProcess::Running);
+  End(process, SIGTERM);
+  QCOMPARE(process->exitCode(), 0);
+  QVERIFY((Stored().contains({L"Config", L"Angle Type"})));
+}
+
+void ProcessTest::AKillWhileSavingLeavesOldOrNew() {
+  const QByteArray old = "[Config]\nMode=1\n[Kept]\nText=\"" + QByteArray(200000, 'x') + "\"\n";
+  // What a run that is not disturbed makes of it.
+  PutStore(old);
+  QProcess* undisturbed = Start();
+  WaitUntilIdle(*undisturbed);
+  End(undisturbed, SIGTERM);
+  const QByteArray saved = Bytes(StoreName());
+  QVERIFY(saved != old && saved.contains("Angle%20Type"));
+
+  int oldOnes = 0;
+  for (int delayUs = 0; delayUs <= 12000; delayUs += 600) {
+    PutStore(old);
+    QProcess* process = Start();
+    WaitUntilIdle(*process);
+    const auto id = static_cast<pid_t>(process->processId());
+    kill(id, SIGTERM);
+    QTest::qSleep(delayUs / 1000);
+    usleep(static_cast<unsigned>(delayUs % 1000));
+    kill(id, SIGKILL);
+    QVERIFY(process->waitForFinished(kPatienceMs));
+    const QByteArray left = Bytes(StoreName());
+    QVERIFY(left == old || left == saved);
+    oldOnes += left == old ? 1 : 0;
+  }
+  qInfo("%d of 21 killed runs left the old content", oldOnes);
+}
+
+void ProcessTest::ADamagedStoreIsKept() {
+  const QByteArray damaged("\0\1\2 garbage", 11);
+  PutStore(damaged);
+  QProcess* process = Start();
+  WaitUntilIdle(*process);
+  End(process, SIGTERM);
+  QCOMPARE(process->exitCode(), 0);
+  QVERIFY((Stored().at({L"Config", L"Mode"}) == L"1"));
+  QCOMPARE(Bytes(QFileInfo(StoreName()).path() + QStringLiteral("/settings.damaged-1.ini")),
+           damaged);
+}
+
+void ProcessTest::AnIgnoredHangupStaysIgnored() {
+  QProcess* process = Start(QStringLiteral("trap '' HUP;"));
+  WaitUntilIdle(*process);
+  QCOMPARE(kill(static_cast<pid_t>(process->processId()), SIGHUP), 0);
+  WaitUntilIdle(*process);
+  QCOMPARE(process->state(), QProcess::Running);
+  End(process, SIGTERM);
+  QCOMPARE(process->exitCode(), 0);
+}
+
+}  // namespace vexa
+
+QTEST_GUILESS_MAIN(vexa::ProcessTest)
+#include "ProcessTest.moc"

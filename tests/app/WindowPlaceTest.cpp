@@ -28,8 +28,8 @@ TEST(WindowPlace, OpensCentredAndComfortable) {
 }
 
 TEST(WindowPlace, FitsASmallDisplay) {
-  for (const WindowPlace& screen : {WindowPlace{0, 0, 240, 320}, WindowPlace{5, 7, 480, 272},
-                                    WindowPlace{0, 0, 100, 50}}) {
+  for (const WindowPlace& screen :
+       {WindowPlace{0, 0, 240, 320}, WindowPlace{5, 7, 480, 272}, WindowPlace{0, 0, 100, 50}}) {
     EXPECT_TRUE(IsInside(FirstPlace(screen), screen)) << screen.width;
   }
 }

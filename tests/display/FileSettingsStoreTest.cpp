@@ -109,8 +109,20 @@ void FileSettingsStoreTest::TextsComeBackExactly_data() {
   using namespace std::string_literals;
   QTest::addColumn<QString>("text");
   const std::wstring texts[] = {
-      L"", L" ", L"1,2;3=4", L"@x", L"@Invalid()", L"\"q\"", L"a\r\nb\n", L"a\0b"s, L"\\",
-      L"\x1F600 \x20AC", L"=[D]1,234.5", L"M:f( , )", L"a/b", std::wstring(100000, L'\x263A'),
+      L"",
+      L" ",
+      L"1,2;3=4",
+      L"@x",
+      L"@Invalid()",
+      L"\"q\"",
+      L"a\r\nb\n",
+      L"a\0b"s,
+      L"\\",
+      L"\x1F600 \x20AC",
+      L"=[D]1,234.5",
+      L"M:f( , )",
+      L"a/b",
+      std::wstring(100000, L'\x263A'),
   };
   int n = 0;
   for (const std::wstring& text : texts) {
@@ -149,7 +161,10 @@ void FileSettingsStoreTest::AnUnquotedListIsOneText() {
 void FileSettingsStoreTest::DamagedFilesAreKeptAside_data() {
   QTest::addColumn<QByteArray>("bytes");
   QTest::newRow("nul") << QByteArray("[Config]\nMode=2\n\0", 17);
-  QTest::newRow("binary") << QByteArray("\x7F" "ELF\2\1\1\0\0\0\xFF\xFE", 12);
+  QTest::newRow("binary") << QByteArray(
+      "\x7F"
+      "ELF\2\1\1\0\0\0\xFF\xFE",
+      12);
   QTest::newRow("utf-8") << QByteArray("[Config]\nMode=\xFF\n");
   QTest::newRow("no sign") << QByteArray("[Config]\nMode\n");
   QTest::newRow("cut off") << QByteArray("[Config]\nMode=2\n[Hist");

@@ -35,7 +35,8 @@ const std::wstring kTexts[] = {
 TEST(IniText, EveryTextComesBackExactly) {
   IniValues values;
   int n = 0;
-  for (const std::wstring& text : kTexts) values[{L"Config", L"Entry " + std::to_wstring(n++)}] = text;
+  for (const std::wstring& text : kTexts)
+    values[{L"Config", L"Entry " + std::to_wstring(n++)}] = text;
   const std::string bytes = FormatIni(values);
   const auto read = ParseIni(bytes);
   ASSERT_TRUE(read) << bytes;
@@ -99,7 +100,7 @@ TEST(IniText, ReadsFilesEditedByHand) {
 
 TEST(IniText, TellsDamage) {
   const std::string damaged[] = {
-      "[S]\nE=1\0"s,       "\0\0\0\0"s,     "[S\nE=1\n",  "[S]\nno sign\n", "[S]\nE=\"open\n",
+      "[S]\nE=1\0"s,       "\0\0\0\0"s,         "[S\nE=1\n",   "[S]\nno sign\n", "[S]\nE=\"open\n",
       "[S]\nE=\xFF\xFE\n", "[S]\nE=\xC0\x80\n", "\x89PNG\r\n", "E=\xED\xA0\x80",
   };
   for (const std::string& bytes : damaged) EXPECT_FALSE(ParseIni(bytes)) << bytes;

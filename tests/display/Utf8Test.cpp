@@ -23,9 +23,11 @@ TEST(Utf8, KnownForms) {
 }
 
 TEST(Utf8, RefusesWhatIsNotWellFormed) {
-  for (const char* bytes : {"\x80", "\xC3", "\xC3" "A", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80",
-                            "\xF0\x80\x80\x80", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFF",
-                            "\xE2\x82"}) {
+  for (const char* bytes : {"\x80", "\xC3",
+                            "\xC3"
+                            "A",
+                            "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
+                            "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFF", "\xE2\x82"}) {
     EXPECT_FALSE(DecodeUtf8(bytes)) << bytes;
   }
 }

@@ -122,7 +122,8 @@ void EditLineTest::EnterNeverBreaksTheLine_data() {
          {Qt::KeyboardModifiers(Qt::NoModifier), Qt::KeyboardModifiers(Qt::ShiftModifier),
           Qt::KeyboardModifiers(Qt::ControlModifier), Qt::ControlModifier | Qt::ShiftModifier,
           Qt::KeyboardModifiers(Qt::KeypadModifier)}) {
-      QTest::addRow("%x %x", key, modifiers.toInt()) << int{key} << static_cast<int>(modifiers.toInt());
+      QTest::addRow("%x %x", key, modifiers.toInt())
+          << int{key} << static_cast<int>(modifiers.toInt());
     }
   }
 }
@@ -192,7 +193,10 @@ void EditLineTest::InputMethodTextIsOneLine() {
 }
 
 void EditLineTest::InsertedBlockMarksAreBlanks() {
-  edit->ApplyChange(InsertText(edit->State(), L"1\n2\xFDD0" L"3\x2029" L"4"));
+  edit->ApplyChange(InsertText(edit->State(),
+                               L"1\n2\xFDD0"
+                               L"3\x2029"
+                               L"4"));
   QVERIFY(edit->Text() == L"1 2 3 4");
   QCOMPARE(edit->State().selectionStart, std::size_t{7});
 }

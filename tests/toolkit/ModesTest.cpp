@@ -15,8 +15,8 @@ TEST(Modes, StoredCodes) {
 }
 
 TEST(Modes, AnyOtherCodeIsTheLastMode) {
-  for (const int code : {0, 5, 9, -1, std::numeric_limits<int>::max(),
-                         std::numeric_limits<int>::min()}) {
+  for (const int code :
+       {0, 5, 9, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
     EXPECT_EQ(ModeOfCode(code), Mode::TwoVarStatistics) << code;
   }
 }

@@ -30,7 +30,9 @@ double Contrast(const QColor& a, const QColor& b) {
 constexpr KeyRole kRoles[] = {KeyRole::Digit,   KeyRole::Operator, KeyRole::Function,
                               KeyRole::Editing, KeyRole::Command,  KeyRole::Equals};
 
-QPalette PaletteOf(const QColor& window) { return QPalette(window, window); }
+QPalette PaletteOf(const QColor& window) {
+  return QPalette(window, window);
+}
 
 const QColor kLightWindow(0xEF, 0xEF, 0xEF);
 const QColor kDarkWindow(0x1F, 0x21, 0x25);
