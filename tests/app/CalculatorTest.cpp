@@ -31,9 +31,9 @@ TEST(Calculator, AFreshStore) {
   EXPECT_EQ(calculator.angleType, AngleType::Degrees);
   EXPECT_EQ(calculator.displayType, DisplayType::Currency);
   EXPECT_EQ(calculator.precision, 5);
-  EXPECT_EQ(calculator.classPos, -1);
-  EXPECT_EQ(calculator.inputTypePos, -1);
-  EXPECT_EQ(calculator.outputTypePos, -1);
+  EXPECT_EQ(calculator.converterPositions.category, -1);
+  EXPECT_EQ(calculator.converterPositions.input, -1);
+  EXPECT_EQ(calculator.converterPositions.output, -1);
   EXPECT_TRUE(calculator.history.IsEmpty());
   EXPECT_EQ(calculator.macros.Count(), 0);
   EXPECT_EQ(calculator.resultLine, L"0");
@@ -70,9 +70,9 @@ TEST(Calculator, RemembersEverythingThatItSaves) {
     calculator.ToggleAngle();
     calculator.displayType = DisplayType::Engineering;
     calculator.precision = 12;
-    calculator.classPos = 3;
-    calculator.inputTypePos = 0;
-    calculator.outputTypePos = 7;
+    calculator.converterPositions.category = 3;
+    calculator.converterPositions.input = 0;
+    calculator.converterPositions.output = 7;
     calculator.Evaluate(L"7+1");
     calculator.Save();
   }
@@ -81,9 +81,9 @@ TEST(Calculator, RemembersEverythingThatItSaves) {
   EXPECT_EQ(calculator.angleType, AngleType::Radians);
   EXPECT_EQ(calculator.displayType, DisplayType::Engineering);
   EXPECT_EQ(calculator.precision, 12);
-  EXPECT_EQ(calculator.classPos, 3);
-  EXPECT_EQ(calculator.inputTypePos, 0);
-  EXPECT_EQ(calculator.outputTypePos, 7);
+  EXPECT_EQ(calculator.converterPositions.category, 3);
+  EXPECT_EQ(calculator.converterPositions.input, 0);
+  EXPECT_EQ(calculator.converterPositions.output, 7);
   EXPECT_EQ(Entries(calculator.history), (Texts{L"=[O]10", L"7+1"}));
   EXPECT_EQ(calculator.answer, 0.0);
 }
