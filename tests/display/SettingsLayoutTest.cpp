@@ -52,7 +52,7 @@ TEST(SettingsLayout, SectionsEntriesKindsAndDefaults) {
   };
   const std::variant<int, std::wstring> defaults[] = {
       1,   1,   1,   3, 5,   -1,     -1,    -1,     0,     L"",  L"",  0, L"", 0,
-      L"", L"", L"", 0, L"", L"-10", L"10", L"-10", L"10", L"0", L"0", 0, L"", L"",
+      L"", L"", L"", 0, L"", L"-10", L"10", L"-10", L"10", L"0", L"0", 0, L"", L"0",
   };
   ASSERT_EQ(std::size(rows), std::size(defaults));
   ASSERT_EQ(store.reads.size(), std::size(rows));
