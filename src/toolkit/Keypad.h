@@ -20,8 +20,8 @@ class Keypad : public QWidget {
  public:
   using KeyTest = std::function<bool(const Key&)>;
 
-  /// `keys` must outlive the keypad.
-  Keypad(std::span<const Key> keys, QWidget* parent);
+  /// `keyTable` must outlive the keypad.
+  Keypad(std::span<const Key> keyTable, QWidget* parent);
 
   /// Shows and enables the keys as the tests say. Keys that share a cell: at most one is shown.
   void Refresh(const KeyTest& isShown, const KeyTest& isEnabled);
