@@ -30,8 +30,6 @@ constexpr int kKeypadShare = 26;
 constexpr int kLeastEditHeight = 44;
 constexpr int kLeastResultHeight = 36;
 
-constexpr std::wstring_view kNoMacro = L"Not exist saved macro";
-
 }  // namespace
 
 /// The keys that run a command; all others insert their text.

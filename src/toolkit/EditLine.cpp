@@ -15,7 +15,6 @@ namespace {
 /// The text grows with the line, of which it leaves at least two rows visible.
 constexpr int kRows = 3;
 constexpr int kSmallestText = 13;
-constexpr int kLargestText = 22;
 
 /// The keys that end a line in an ordinary edit box, with whatever modifiers.
 bool EndsLine(const QKeyEvent& event) {
@@ -114,7 +113,7 @@ void EditLine::insertFromMimeData(const QMimeData* source) {
 
 void EditLine::resizeEvent(QResizeEvent* event) {
   QPlainTextEdit::resizeEvent(event);
-  const int size = std::clamp(height() / (kRows + 1), kSmallestText, kLargestText);
+  const int size = std::clamp(height() / (kRows + 1), kSmallestText, largestText);
   QFont sized = font();
   if (sized.pixelSize() == size) return;
   sized.setPixelSize(size);
