@@ -72,7 +72,7 @@ void Calculator::Evaluate(std::wstring_view editText) {
     engine.baseMode = baseType;
     engine.EvaluateExpression(expansion.expression);
     if (!engine.errorText.empty()) {
-      history.AddHistory(editText);
+      history.Add(editText);
       return ShowError(engine.errorText);
     }
     value = engine.result;
@@ -80,8 +80,8 @@ void Calculator::Evaluate(std::wstring_view editText) {
   answer = value;
   ShowAnswer();
   if (history.IsEmpty() || history.At(history.Count()) != editText) {
-    history.AddHistory(ResultEntry(baseType, resultLine));
-    history.AddHistory(editText);
+    history.Add(ResultEntry(baseType, resultLine));
+    history.Add(editText);
   }
 }
 
