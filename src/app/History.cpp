@@ -1,6 +1,7 @@
 #include "app/History.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "display/FormatResult.h"
 #include "display/SettingsLayout.h"

@@ -1,11 +1,15 @@
 #include "display/TextHistory.h"
 
+#include <utility>
+
 namespace vexa {
 
-void TextHistory::Add(std::wstring_view text) {
+void TextHistory::AddHistory(std::wstring_view text) {
   if (!entries.empty() && entries.back() == text) return;
+  // Copied first: `text` may be an entry that moves.
+  std::wstring entry(text);
   if (Count() == kind.capacity) entries.erase(entries.begin());
-  entries.emplace_back(text);
+  entries.push_back(std::move(entry));
 }
 
 void TextHistory::Load(const SettingsStore& store) {

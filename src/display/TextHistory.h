@@ -24,7 +24,7 @@ class TextHistory {
   explicit TextHistory(const HistoryKind& historyKind) : kind(historyKind) {}
 
   /// Appends `text`, unless the newest entry equals it; drops the oldest entry when full.
-  void Add(std::wstring_view text);
+  void AddHistory(std::wstring_view text);
   int Count() const { return static_cast<int>(entries.size()); }
   bool IsEmpty() const { return entries.empty(); }
   /// Entry `index`, 1 (oldest) to Count().

@@ -62,7 +62,7 @@ PlotterOutcome PlotFunctions::Add(std::wstring_view fieldText) {
   std::erase(text, L' ');
   if (text.empty()) return Refusal(std::wstring(kNoText));
   // Also a text that is refused below can be recalled and mended.
-  history.Add(text);
+  history.AddHistory(text);
   if (!CanAdd()) return Refusal(std::wstring(kFull) + L" " + std::to_wstring(kCapacity));
   GraphFunction function;
   std::wstring sentence = ParseGraphFunction(functions.size(), text, function);
