@@ -44,4 +44,14 @@ inline std::vector<MemoryMenuItem> MemoryMenuItems(bool hasResult) {
   return items;
 }
 
+/// The lines of the screens that have memory variables and no memory register.
+inline std::vector<MemoryMenuItem> VariableMenuItems(bool hasResult) {
+  std::vector<MemoryMenuItem> items = MemoryMenuItems(hasResult);
+  std::erase_if(items, [](const MemoryMenuItem& item) {
+    return item.command != MemoryCommand::RecallVariable &&
+           item.command != MemoryCommand::StoreVariable;
+  });
+  return items;
+}
+
 }  // namespace vexa

@@ -13,10 +13,16 @@ std::string NarrowCell(std::wstring_view text) {
   return bytes;
 }
 
-double CellValue(std::string_view text) { return TextToDouble(text); }
+double CellValue(std::string_view text) {
+  return TextToDouble(text);
+}
 
-double CellValue(std::wstring_view text) { return CellValue(NarrowCell(text)); }
+double CellValue(std::wstring_view text) {
+  return CellValue(NarrowCell(text));
+}
 
-std::int32_t CellCount(std::string_view text) { return ToInt32(CellValue(text)); }
+std::int32_t CellCount(std::string_view text) {
+  return ToInt32(CellValue(text));
+}
 
 }  // namespace vexa

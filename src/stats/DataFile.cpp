@@ -21,7 +21,9 @@ constexpr auto kIsNumberCharacter = [] {
   return table;
 }();
 
-bool IsNumberCharacter(char c) { return kIsNumberCharacter[static_cast<unsigned char>(c)]; }
+bool IsNumberCharacter(char c) {
+  return kIsNumberCharacter[static_cast<unsigned char>(c)];
+}
 
 }  // namespace
 

@@ -33,7 +33,9 @@ double DataList::Value(std::size_t row, std::size_t column) const {
   return CellValue(Cell(row, column));
 }
 
-std::int32_t DataList::Count(std::size_t row) const { return CellCount(Cell(row, CountColumn())); }
+std::int32_t DataList::Count(std::size_t row) const {
+  return CellCount(Cell(row, CountColumn()));
+}
 
 void DataList::Add(std::span<const std::wstring> values, std::int32_t count) {
   rows.InsertFront(RowTexts(values, std::to_string(count)));
@@ -44,7 +46,9 @@ void DataList::Add(std::span<const std::wstring> values, std::int32_t count) {
   if (RowCount() == kRowsForStatistics) EnableStatistics(true);
 }
 
-void DataList::SelectionChanged(bool any) { controls.edit = controls.remove = any; }
+void DataList::SelectionChanged(bool any) {
+  controls.edit = controls.remove = any;
+}
 
 void DataList::Edit(std::size_t row) {
   editedRow = row;
@@ -63,7 +67,9 @@ void DataList::Ok(std::span<const std::wstring> values, std::int32_t count) {
   EndEditing();
 }
 
-void DataList::Cancel() { EndEditing(); }
+void DataList::Cancel() {
+  EndEditing();
+}
 
 void DataList::EndEditing() {
   editedRow.reset();

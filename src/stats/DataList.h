@@ -102,9 +102,7 @@ class DataList {
 
  private:
   void EndEditing();
-  void EnableStatistics(bool enabled) {
-    controls.statistics = controls.correlation = enabled;
-  }
+  void EnableStatistics(bool enabled) { controls.statistics = controls.correlation = enabled; }
 
   std::span<const ListColumn> columns;
   PackedRows rows;

@@ -16,10 +16,8 @@ struct Transformation {
   bool logarithmOfY;
 };
 constexpr Transformation kTransformations[] = {
-    {RegressionModel::Power, true, true},
-    {RegressionModel::Inverse, true, true},
-    {RegressionModel::Logarithmic, true, false},
-    {RegressionModel::Exponential, false, true},
+    {RegressionModel::Power, true, true},        {RegressionModel::Inverse, true, true},
+    {RegressionModel::Logarithmic, true, false}, {RegressionModel::Exponential, false, true},
     {RegressionModel::Quadratic, false, false},
 };
 

@@ -9,6 +9,8 @@ namespace vexa {
 using ProgressWatcher = std::function<bool(double share)>;
 
 /// For operations that nobody watches.
-inline bool Unwatched(double) { return true; }
+inline bool Unwatched(double) {
+  return true;
+}
 
 }  // namespace vexa

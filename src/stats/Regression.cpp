@@ -34,7 +34,9 @@ double Regression::FitCoefficients(RegressionModel fittedModel, std::size_t coun
   return index == 0 ? c : index == 1 ? b : a;
 }
 
-double Regression::Correlation() const { return CorrelationOf(list); }
+double Regression::Correlation() const {
+  return CorrelationOf(list);
+}
 
 double Regression::PredictY(double x) {
   const auto [a, b, c] = Fitted();

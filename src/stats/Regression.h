@@ -28,8 +28,8 @@ class Regression {
   /// enum keeps what is there.
   const Coefficients& Fitted();
   /// Fits one of the models that are not linear, with `count` coefficients (3 for the quadratic
-  /// one, else 2), unless the coefficients are valid, and returns one of them: A at index 0 and B at
-  /// any other; of the quadratic model C, B and A at 0, 1 and 2.
+  /// one, else 2), unless the coefficients are valid, and returns one of them: A at index 0 and B
+  /// at any other; of the quadratic model C, B and A at 0, 1 and 2.
   double FitCoefficients(RegressionModel fittedModel, std::size_t count, int index);
   /// The linear correlation coefficient of the rows, whatever the model.
   double Correlation() const;

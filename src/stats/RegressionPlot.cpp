@@ -41,7 +41,7 @@ struct Extent {
   double max;
 };
 
-Extent ExtentOf(const std::vector<DataPoint>& points, double DataPoint::* coordinate) {
+Extent ExtentOf(const std::vector<DataPoint>& points, double DataPoint::*coordinate) {
   if (points.empty()) return {0.0, 0.0};
   Extent extent{points.front().*coordinate, points.front().*coordinate};
   for (const DataPoint& point : points) {

@@ -85,10 +85,9 @@ std::optional<std::vector<std::size_t>> SortOrder(std::span<const double> values
                                                   const ProgressWatcher& watcher) {
   std::vector<Entry> entries(values.size());
   for (std::size_t i = 0; i < values.size(); ++i) entries[i] = {values[i], i};
-  const bool sorted =
-      direction == SortDirection::Ascending
-          ? PartitionSort<SortDirection::Ascending>(entries, watcher).Run()
-          : PartitionSort<SortDirection::Descending>(entries, watcher).Run();
+  const bool sorted = direction == SortDirection::Ascending
+                          ? PartitionSort<SortDirection::Ascending>(entries, watcher).Run()
+                          : PartitionSort<SortDirection::Descending>(entries, watcher).Run();
   if (!sorted) return std::nullopt;
   std::vector<std::size_t> order(entries.size());
   for (std::size_t i = 0; i < entries.size(); ++i) order[i] = entries[i].index;

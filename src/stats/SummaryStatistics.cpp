@@ -29,13 +29,17 @@ ColumnSums SumColumn(const DataList& list, std::size_t column) {
   return sums;
 }
 
-double Sum(const DataList& list, std::size_t column) { return SumColumn(list, column).values; }
+double Sum(const DataList& list, std::size_t column) {
+  return SumColumn(list, column).values;
+}
 
 double SumOfSquares(const DataList& list, std::size_t column) {
   return SumColumn(list, column).squares;
 }
 
-double Mean(const DataList& list, std::size_t column) { return Sum(list, column) / list.Total(); }
+double Mean(const DataList& list, std::size_t column) {
+  return Sum(list, column) / list.Total();
+}
 
 double SampleDeviation(const DataList& list, std::size_t column) {
   return Deviation(list, column, static_cast<double>(list.Total()) - 1.0);
@@ -58,6 +62,8 @@ PairSums SumPairs(const DataList& list) {
   return sums;
 }
 
-double SumOfProducts(const DataList& list) { return SumPairs(list).products; }
+double SumOfProducts(const DataList& list) {
+  return SumPairs(list).products;
+}
 
 }  // namespace vexa

@@ -25,8 +25,12 @@ Rows RowsIn(const QJsonValue& value) {
   return rows;
 }
 
-std::string Bytes(const QJsonValue& value) { return value.toString().toLatin1().toStdString(); }
+std::string Bytes(const QJsonValue& value) {
+  return value.toString().toLatin1().toStdString();
+}
 
-double Double(const QJsonValue& value) { return HexDouble(value.toString().toStdString()); }
+double Double(const QJsonValue& value) {
+  return HexDouble(value.toString().toStdString());
+}
 
 }  // namespace vexa::test

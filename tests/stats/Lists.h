@@ -19,7 +19,9 @@ DataList ListOf(const Rows& rows);
 /// The texts of all rows.
 Rows RowsOf(const PackedRows& rows);
 /// Values and counts as pairs of one variable: {{"2", "3"}, {"4", "1"}}
-inline Rows RowsOf(const DataList& list) { return RowsOf(list.Rows()); }
+inline Rows RowsOf(const DataList& list) {
+  return RowsOf(list.Rows());
+}
 
 /// What a file with these bytes holds, fed in pieces of `pieceSize` bytes.
 DataSet ReadBytes(std::size_t columns, std::string_view bytes, std::size_t pieceSize = 4096);

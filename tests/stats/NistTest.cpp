@@ -143,9 +143,9 @@ TEST(Nist, CorrectDigitsOfDeviations) {
 TEST(Nist, DeviationOfWhatHasAllDigitsInCommonIsRefused) {
   const DataList list = ListOf(NistRows("NumAcc4", false));
   std::wstring lastError;
-  EXPECT_EQ(FormatResult(SampleDeviation(list, 0), DisplayType::Currency, 5, BaseType::Dec,
-                         lastError),
-            L"Out of range(overflow or underflow)");
+  EXPECT_EQ(
+      FormatResult(SampleDeviation(list, 0), DisplayType::Currency, 5, BaseType::Dec, lastError),
+      L"Out of range(overflow or underflow)");
 }
 
 TEST(Nist, CorrectDigitsOfFits) {

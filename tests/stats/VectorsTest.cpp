@@ -98,10 +98,10 @@ TEST(StatisticsVectors, SummaryStatistics) {
       const double value = statistic.compute(list);
       EXPECT_LE(UlpDistance(value, Double(expected[statistic.name][0])), statistic.tolerance);
       std::wstring lastError;
-      EXPECT_EQ(Narrow(FormatResult(value,
-                                    static_cast<DisplayType>(testCase["display_type"].toInt()),
-                                    testCase["precision"].toInt(), BaseType::Dec, lastError)),
-                expected[statistic.name][1].toString().toStdString());
+      EXPECT_EQ(
+          Narrow(FormatResult(value, static_cast<DisplayType>(testCase["display_type"].toInt()),
+                              testCase["precision"].toInt(), BaseType::Dec, lastError)),
+          expected[statistic.name][1].toString().toStdString());
       ++compared;
     }
     EXPECT_EQ(expected.size(), testCase["var"].toInt() == 1 ? 5 : 11) << Title(testCase);
@@ -112,8 +112,8 @@ TEST(StatisticsVectors, SummaryStatistics) {
 class RegressionVectors : public testing::Test {
  protected:
   void CheckModel(const QJsonObject& testCase, RegressionModel model) {
-    const QJsonObject expected = testCase["models"][QString::number(static_cast<int>(model))]
-                                     .toObject();
+    const QJsonObject expected =
+        testCase["models"][QString::number(static_cast<int>(model))].toObject();
     DataList list = ListOf(RowsIn(testCase["rows"]));
     Regression regression(list);
     regression.ChooseModel(model);
@@ -144,8 +144,8 @@ class RegressionVectors : public testing::Test {
                  Regression& regression) {
     std::wstring lastError;
     RegressionPlot plot;
-    const std::wstring message = PrepareRegressionPlot(
-        list, regression, testCase["precision"].toInt(), lastError, plot);
+    const std::wstring message =
+        PrepareRegressionPlot(list, regression, testCase["precision"].toInt(), lastError, plot);
     EXPECT_EQ(message, expected["message"].toString().toStdWString());
     EXPECT_EQ(lastError, message);
     std::wstring ignored;
