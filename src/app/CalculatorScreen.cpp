@@ -5,6 +5,8 @@
 #include <QVBoxLayout>
 
 #include "app/CalculatorKeypad.h"
+#include "converter/UnitConverterDialog.h"
+#include "converter/UserConversionDialog.h"
 #include "display/DisplayFormattingDialog.h"
 #include "display/WideText.h"
 #include "macros/MacroEditorDialog.h"
@@ -47,6 +49,7 @@ const CalculatorScreen::KeyCommand CalculatorScreen::kKeyCommands[] = {
     {L"BIN", &CalculatorScreen::ChooseBase},
     {L"OCT", &CalculatorScreen::ChooseBase},
     {L"Mac", &CalculatorScreen::InsertMacro},
+    {L"Cnv", &CalculatorScreen::ConvertUnits},
     {L"MEM", &CalculatorScreen::OpenMemoryMenu},
 };
 
@@ -82,6 +85,7 @@ CalculatorScreen::~CalculatorScreen() {
 void CalculatorScreen::BuildFileMenu() {
   AddFileCommand(QStringLiteral("&Config..."), this, &CalculatorScreen::Configure);
   AddFileCommand(QStringLiteral("Edit &Macro..."), this, &CalculatorScreen::EditMacros);
+  AddFileCommand(QStringLiteral("Edit &Unit Convert"), this, &CalculatorScreen::EditConversions);
 }
 
 void CalculatorScreen::BuildEditMenu() {
@@ -200,13 +204,26 @@ void CalculatorScreen::EditMacros() {
   OpenDialog(dialog);
 }
 
+void CalculatorScreen::ConvertUnits() {
+  auto* const dialog =
+      new UnitConverterDialog(store, calculator.converterPositions, calculator.memory,
+                              calculator.ConverterInput(), this);
+  connect(dialog, &QDialog::finished, this, [this, dialog](int outcome) {
+    const UnitConverter& converter = dialog->Converter();
+    calculator.TakeFromConverter(converter.Positions(), converter.Memory());
+    if (outcome == QDialog::Accepted) InsertIntoLine(converter.ResultText());
+  });
+  OpenDialog(dialog);
+}
+
+void CalculatorScreen::EditConversions() {
+  OpenDialog(new UserConversionDialog(store, this));
+}
+
 void CalculatorScreen::OpenMemoryMenu() {
   editLine->setFocus();
-  std::vector<PopupCommand> commands;
-  for (const MemoryMenuItem& item : MemoryMenuItems(calculator.lastError.empty())) {
-    commands.push_back({static_cast<int>(item.command), std::wstring(item.caption)});
-  }
-  ShowPopupMenu(keypad, keypad->Button(L"MEM")->geometry().topLeft(), PopupSide::Right, commands,
+  ShowPopupMenu(keypad, keypad->Button(L"MEM")->geometry().topLeft(), PopupSide::Right,
+                MemoryMenuCommands(calculator.lastError.empty()),
                 [this](int command) { RunMemoryCommand(command); })
       ->setObjectName(QStringLiteral("Memory"));
 }

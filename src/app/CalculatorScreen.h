@@ -44,6 +44,8 @@ class CalculatorScreen : public ModeScreen {
   void ChooseBase();
   void InsertMacro();
   void InsertMacroCall(int index);
+  void ConvertUnits();
+  void EditConversions();
   void OpenMemoryMenu();
   void RunMemoryCommand(int command);
   void RecallVariable();

@@ -1,6 +1,7 @@
 #include "app/History.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "display/FormatResult.h"
 #include "display/SettingsLayout.h"
@@ -71,8 +72,10 @@ const ResultBase& FindBase(Predicate matches) {
 
 void History::AddHistory(std::wstring_view text) {
   if (!entries.empty() && entries.back() == text) return;
+  // Copied first: `text` may be an entry that moves.
+  std::wstring entry(text);
   if (Count() == kCapacity) entries.erase(entries.begin());
-  entries.emplace_back(text);
+  entries.push_back(std::move(entry));
 }
 
 std::wstring History::Caption(int index) const {

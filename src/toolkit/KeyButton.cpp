@@ -29,7 +29,8 @@ constexpr qreal kLargestText = 26;
 constexpr std::size_t kLongestSign = 2;
 
 bool IsSign(const Key& key) {
-  return key.caption.size() <= kLongestSign &&
+  const bool isWord = key.role == KeyRole::Operator && key.caption.front() >= L'A';
+  return key.caption.size() <= kLongestSign && !isWord &&
          (key.role == KeyRole::Digit || key.role == KeyRole::Operator ||
           key.role == KeyRole::Equals);
 }

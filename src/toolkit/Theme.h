@@ -28,6 +28,11 @@ const KeyColours& ColoursOf(KeyRole role, const QPalette& palette);
 /// Draws `label` on the light blue that dialogs have behind their texts, in light and dark alike.
 void ShowOnLightBlue(QWidget* label);
 
+/// Draws a field's text black on the amber of results, in light and dark alike.
+void ShowOnAmber(QWidget* field);
+/// Draws `label` as a quiet notice of something that is not right yet.
+void ShowAsNotice(QWidget* label);
+
 /// `base`, the desktop's own font, in "Tahoma" where that exists.
 QFont ProgramFont(const QFont& base);
 
