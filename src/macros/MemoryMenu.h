@@ -48,4 +48,14 @@ inline std::vector<PopupCommand> MemoryMenuCommands(bool hasResult) {
   return commands;
 }
 
+/// The lines of the screens that have memory variables and no memory register.
+inline std::vector<MemoryMenuItem> VariableMenuItems(bool hasResult) {
+  std::vector<MemoryMenuItem> items = MemoryMenuItems(hasResult);
+  std::erase_if(items, [](const MemoryMenuItem& item) {
+    return item.command != MemoryCommand::RecallVariable &&
+           item.command != MemoryCommand::StoreVariable;
+  });
+  return items;
+}
+
 }  // namespace vexa
