@@ -31,9 +31,9 @@ BaseType ValidBase(int stored) {
 
 Calculator::Calculator(SettingsStore& settingsStore) : macros(settingsStore), store(settingsStore) {
   angleType = static_cast<AngleType>(Read(store, settings::kAngleType));
-  classPos = Read(store, settings::kClassPos);
-  inputTypePos = Read(store, settings::kInputTypePos);
-  outputTypePos = Read(store, settings::kOutputTypePos);
+  converterPositions.category = Read(store, settings::kClassPos);
+  converterPositions.input = Read(store, settings::kInputTypePos);
+  converterPositions.output = Read(store, settings::kOutputTypePos);
   displayType = static_cast<DisplayType>(Read(store, settings::kDisplayType));
   precision = Read(store, settings::kPrecision);
   macros.LoadMacroTable();
@@ -46,16 +46,18 @@ void Calculator::Save() const {
   Write(store, settings::kBaseType, static_cast<int>(baseType));
   Write(store, settings::kDisplayType, static_cast<int>(displayType));
   Write(store, settings::kPrecision, precision);
-  Write(store, settings::kClassPos, classPos);
-  Write(store, settings::kInputTypePos, inputTypePos);
-  Write(store, settings::kOutputTypePos, outputTypePos);
+  Write(store, settings::kClassPos, converterPositions.category);
+  Write(store, settings::kInputTypePos, converterPositions.input);
+  Write(store, settings::kOutputTypePos, converterPositions.output);
   history.Save(store);
 }
 
 void Calculator::Evaluate(std::wstring_view editText) {
+  // Copied first: it may be an entry of the history or another text that changes here.
+  const std::wstring typed(editText);
   lastError.clear();
   answer = 0.0;
-  const std::wstring_view expression = Trimmed(editText);
+  const std::wstring_view expression = Trimmed(typed);
   if (expression.empty()) {
     lastError = kNoExpression;
     resultLine = kNullExpression;
@@ -72,16 +74,16 @@ void Calculator::Evaluate(std::wstring_view editText) {
     engine.baseMode = baseType;
     engine.EvaluateExpression(expansion.expression);
     if (!engine.errorText.empty()) {
-      history.AddHistory(editText);
+      history.AddHistory(typed);
       return ShowError(engine.errorText);
     }
     value = engine.result;
   }
   answer = value;
   ShowAnswer();
-  if (history.IsEmpty() || history.At(history.Count()) != editText) {
+  if (history.IsEmpty() || history.At(history.Count()) != typed) {
     history.AddHistory(ResultEntry(baseType, resultLine));
-    history.AddHistory(editText);
+    history.AddHistory(typed);
   }
 }
 
@@ -118,6 +120,15 @@ std::wstring Calculator::RecallValueText(double value) {
 
 std::wstring Calculator::MemoryVariableText() {
   return FormatResult(answer, DisplayType::FloatingPoint, precision, BaseType::Dec, lastError);
+}
+
+std::wstring Calculator::ConverterInput() const {
+  return ConverterInputText(answer, lastError, displayType, precision);
+}
+
+void Calculator::TakeFromConverter(const ConverterPositions& positions, double memoryValue) {
+  converterPositions = positions;
+  memory = memoryValue;
 }
 
 std::wstring Calculator::RecallHistory(int index) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "app/History.h"
+#include "converter/UnitConverter.h"
 #include "display/DisplayType.h"
 #include "display/SettingsStore.h"
 #include "engine/CalcModes.h"
@@ -40,6 +41,10 @@ class Calculator {
   std::wstring RecallValueText(double value);
   /// The answer as memory variables keep it: decimal, without thousands separators.
   std::wstring MemoryVariableText();
+  /// The text that the unit converter's input field starts with.
+  std::wstring ConverterInput() const;
+  /// Takes the converter's last positions and the memory register back.
+  void TakeFromConverter(const ConverterPositions& positions, double memoryValue);
   /// What recalling history entry `index` (1 is the oldest) inserts into the edit line.
   std::wstring RecallHistory(int index);
 
@@ -55,8 +60,8 @@ class Calculator {
   BaseType baseType;
   DisplayType displayType;
   int precision;
-  /// The unit converter's last category and units; -1: none.
-  int classPos, inputTypePos, outputTypePos;
+  /// The unit converter's last category and units.
+  ConverterPositions converterPositions;
   MacroTable macros;
   History history;
 

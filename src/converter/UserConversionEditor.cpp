@@ -28,26 +28,10 @@ SaveOutcome Refusal(std::wstring_view sentence, ConversionBox focus) {
 
 }  // namespace
 
-EditorView ViewOfEditor(bool editing, int count) {
-  const bool viewing = !editing;
-  return {
-      .listLabel =
-          L"List(" + std::to_wstring(count) + L"/" + std::to_wstring(kMaxUserConversions) + L")",
-      .listEnabled = viewing,
-      .boxesEnabled = editing,
-      .closeShown = viewing,
-      .newShown = viewing && count < kMaxUserConversions,
-      .editShown = viewing && count > 0,
-      .deleteShown = viewing && count > 0,
-      .saveShown = editing,
-      .cancelShown = editing,
-      .memoryShown = editing,
-  };
-}
-
 UserConversionEditor::UserConversionEditor(SettingsStore& settingsStore)
     : conversions(settingsStore) {
   conversions.Load();
+  Select(0);
 }
 
 ConversionBox UserConversionEditor::New() {

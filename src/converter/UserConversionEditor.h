@@ -5,6 +5,7 @@
 
 #include "converter/UserConversions.h"
 #include "display/SettingsStore.h"
+#include "toolkit/ListEditorView.h"
 
 namespace vexa {
 
@@ -22,23 +23,6 @@ struct ConversionBoxes {
   std::wstring rate;
 };
 
-/// What is shown and enabled; "Save", "Cancel" and "MEM" exactly while editing.
-struct EditorView {
-  std::wstring listLabel;
-  bool listEnabled;
-  bool boxesEnabled;
-  bool closeShown;
-  bool newShown;
-  bool editShown;
-  bool deleteShown;
-  bool saveShown;
-  bool cancelShown;
-  bool memoryShown;
-};
-
-/// The editor's look with `count` conversions, in the editing or in the view state.
-EditorView ViewOfEditor(bool editing, int count);
-
 /// Why Save was refused and where the focus goes; an empty sentence: saved.
 struct SaveOutcome {
   std::wstring sentence;
@@ -48,7 +32,7 @@ struct SaveOutcome {
 /// The editor of the user's conversions without its window.
 class UserConversionEditor {
  public:
-  /// Reads the conversions; the view state, nothing selected. `settingsStore` must outlive the
+  /// Reads the conversions; the view state, the first one selected. `settingsStore` must outlive the
   /// editor.
   explicit UserConversionEditor(SettingsStore& settingsStore);
 
@@ -68,7 +52,10 @@ class UserConversionEditor {
   /// Selects a conversion of the list; a position outside it selects nothing.
   void Select(int position);
 
-  EditorView View() const { return ViewOfEditor(editing, conversions.Count()); }
+  ListEditorView View() const {
+    return ViewOfListEditor(editing, conversions.Count(), kMaxUserConversions);
+  }
+  bool IsEditing() const { return editing; }
   const UserConversions& Conversions() const { return conversions; }
   /// The list's selected position; -1: none.
   int Selected() const { return selected; }

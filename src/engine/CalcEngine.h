@@ -27,6 +27,8 @@ class CalcEngine : public TokenList {
   BaseType baseMode = BaseType::Dec;
   /// Value of the last successful evaluation; 0.0 after a failure.
   double result = 0.0;
+  /// Reserved for the result's text in the integer bases; stays empty.
+  std::wstring resultText;
   /// Function names and codes, the same for every engine object.
   static constexpr const std::array<Keyword, 16>& keywords = kKeywords;
 

@@ -34,6 +34,8 @@ void ExprParser::Validate(std::wstring_view formula) {
 
 void ExprParser::CheckVariables() {
   const auto expected = static_cast<std::size_t>(formulaType) + 1;
+  // A type outside the enum accepts every variable and expects none.
+  if (expected > kVariables.size()) return;
   for (const Variable& variable : std::span(kVariables).first(expected)) {
     const bool used = std::any_of(tokens.begin(), tokens.begin() + tokenCount, [&](const Token& t) {
       return t.isOperand == 1 && t.op == variable.name;

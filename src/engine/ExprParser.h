@@ -8,7 +8,8 @@
 
 namespace vexa {
 
-/// Which variables a formula has, and must use.
+/// Which variables a formula has, and must use. With a value outside the enum it may use all three
+/// and must use none.
 enum class FormulaType : int { X = 0, XY = 1, XYZ = 2 };
 
 /// Tokenizes and checks a formula with variables. Afterwards `errorText` is empty when the formula

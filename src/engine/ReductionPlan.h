@@ -32,11 +32,11 @@ class ReductionPlan {
 
  private:
   // Each record gives at most one step; a failure is one more.
-  std::array<ReductionStep, kTokenRecords + 1> steps;
+  std::array<ReductionStep, kTokenRecords + 1> steps{};
   std::size_t stepCount = 0;
   bool failed = false;
   int resultIndex = 0;
-  std::array<std::uint32_t, kTokenRecords> structure;
+  std::array<std::uint32_t, kTokenRecords> structure{};
   std::size_t recordCount = 0;
   BaseType plannedBase = BaseType::Dec;
 };

@@ -12,8 +12,9 @@ void TokenList::ReportError(ErrorCode code, std::wstring_view argument) {
 void TokenList::Clear() {
   errorFlag = 0;
   errorText.clear();
-  ClearRecordsFrom(0);
   tokenCount = 0;
+  // All of them: a caller may have written records behind the ones in use.
+  tokens.fill({});
 }
 
 void TokenList::ClearRecordsFrom(std::size_t count) {

@@ -37,7 +37,7 @@ void MacroEditor::Edit() {
 
 MacroEditor::Refusal MacroEditor::Save(const Fields& fields) {
   const Fields trimmed{Trimmed(fields.name), fields.type, Trimmed(fields.formula)};
-  const Refusal refusal = Check(trimmed);
+  Refusal refusal = Check(trimmed);
   if (!refusal.sentence.empty()) return refusal;
   const std::wstring_view type = kMacroTypes[static_cast<std::size_t>(trimmed.type)].storedText;
   if (edited < 0) {

@@ -3,6 +3,8 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/PopupCommand.h"
+
 namespace vexa {
 
 /// Commands of the "MEM" menu, with their numbers.
@@ -35,13 +37,25 @@ inline constexpr MemoryMenuItem kMemoryMenu[] = {
     {L"Store MemVar", MemoryCommand::StoreVariable, true},
 };
 
-/// The lines to show: all of them, or those that work without a result.
-inline std::vector<MemoryMenuItem> MemoryMenuItems(bool hasResult) {
-  std::vector<MemoryMenuItem> items;
+/// The commands to show: all of them, or those that work without a result.
+inline std::vector<PopupCommand> MemoryMenuCommands(bool hasResult) {
+  std::vector<PopupCommand> commands;
   for (const MemoryMenuItem& item : kMemoryMenu) {
-    if (hasResult || !item.needsResult) items.push_back(item);
+    if (hasResult || !item.needsResult) {
+      commands.push_back({static_cast<int>(item.command), std::wstring(item.caption)});
+    }
   }
-  return items;
+  return commands;
+}
+
+/// The commands of the screens that have memory variables and no memory register.
+inline std::vector<PopupCommand> VariableMenuCommands(bool hasResult) {
+  std::vector<PopupCommand> commands = MemoryMenuCommands(hasResult);
+  std::erase_if(commands, [](const PopupCommand& command) {
+    const auto code = static_cast<MemoryCommand>(command.command);
+    return code != MemoryCommand::RecallVariable && code != MemoryCommand::StoreVariable;
+  });
+  return commands;
 }
 
 }  // namespace vexa

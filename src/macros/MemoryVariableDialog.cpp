@@ -1,6 +1,7 @@
 #include "macros/MemoryVariableDialog.h"
 
 #include <QHBoxLayout>
+#include <utility>
 
 #include "display/WideText.h"
 #include "toolkit/MessageBox.h"
@@ -18,9 +19,10 @@ MemoryVariableDialog::MemoryVariableDialog(SettingsStore& store, QWidget* parent
   Build(L"Recall", &MemoryVariableDialog::RecallSelected);
 }
 
-MemoryVariableDialog::MemoryVariableDialog(SettingsStore& store, const std::wstring& text,
-                                           QWidget* parent)
-    : Dialog(QStringLiteral("MemoryVariable"), parent), variables(store), textToStore(text) {
+MemoryVariableDialog::MemoryVariableDialog(SettingsStore& store, std::wstring text, QWidget* parent)
+    : Dialog(QStringLiteral("MemoryVariable"), parent),
+      variables(store),
+      textToStore(std::move(text)) {
   Build(L"Store", &MemoryVariableDialog::StoreSelected);
 }
 

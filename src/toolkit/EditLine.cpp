@@ -26,7 +26,7 @@ bool EndsLine(const QKeyEvent& event) {
 /// The number of wide characters before `position` of the document's text, and back: a character
 /// outside the basic plane takes two positions of the document.
 std::size_t WidePosition(const QString& text, int position) {
-  return QStringView(text).left(position).toUcs4().size();
+  return static_cast<std::size_t>(QStringView(text).left(position).toUcs4().size());
 }
 int DocumentPosition(std::wstring_view text, std::size_t position) {
   return static_cast<int>(FromWide(text.substr(0, position)).size());
@@ -107,7 +107,7 @@ bool EditLine::canInsertFromMimeData(const QMimeData* source) const {
 void EditLine::insertFromMimeData(const QMimeData* source) {
   if (!source->hasText()) return;
   // Only what can have a place is converted, so that a paste of any size is over at once.
-  const qsizetype mostUnits = static_cast<qsizetype>(4 * kLongestLine);
+  const auto mostUnits = static_cast<qsizetype>(kLongestLine) * 4;
   ApplyChange(InsertText(State(), source->text().left(mostUnits).toStdWString()));
 }
 

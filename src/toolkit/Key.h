@@ -18,7 +18,9 @@ enum class KeyRole {
   Command,
   Equals,
   Shift,
-  ShiftActive
+  ShiftActive,
+  Pale,    ///< a dialog's button
+  Memory,  ///< a dialog's button of the memory menu
 };
 
 /// What a key puts into the edit line.

@@ -6,16 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/PopupCommand.h"
+
 class QMenu;
 class QWidget;
 
 namespace vexa {
-
-/// A command of a pop-up menu and its text; an empty text is a separator.
-struct PopupCommand {
-  int command;
-  std::wstring caption;
-};
 
 /// To which side of its anchor a pop-up menu opens.
 enum class PopupSide { Left, Right };

@@ -17,9 +17,9 @@ KeyColours Colours(QRgb face, QRgb pressedFace, QRgb text, QRgb disabledText, QR
 }
 
 /// Each row: face, pressed face, text, text of a key that is shown but inert, border.
-const std::array<RoleColours, 8>& Table() {
+const std::array<RoleColours, 10>& Table() {
   // clang-format off
-  static const std::array<RoleColours, 8> table{{
+  static const std::array<RoleColours, 10> table{{
       {KeyRole::Digit,    Colours(0xFFFFFF, 0xD9DCE2, 0x17191C, 0x8C9097, 0xC3C7CE),
                           Colours(0x43464D, 0x5A5E67, 0xFFFFFF, 0x8A8E96, 0x53575F)},
       {KeyRole::Operator, Colours(0xD9E5F8, 0xB7CCEE, 0x10305F, 0x7F93B5, 0xB3C6E4),
@@ -37,6 +37,11 @@ const std::array<RoleColours, 8>& Table() {
                           Colours(0x000000, 0x3A3A3A, 0xFF8000, 0x9A6A3A, 0x7A3D00)},
       {KeyRole::ShiftActive, Colours(0xFF8000, 0xE07000, 0x000000, 0x8A4A0A, 0xD96C00),
                           Colours(0xFF8000, 0xE07000, 0x000000, 0x8A4A0A, 0xD96C00)},
+      // The unit converter's buttons have fixed colours too.
+      {KeyRole::Pale,     Colours(0xDEE7FF, 0xBECFFF, 0x10182C, 0x7C88A6, 0xB4C4EE),
+                          Colours(0xDEE7FF, 0xBECFFF, 0x10182C, 0x7C88A6, 0xB4C4EE)},
+      {KeyRole::Memory,   Colours(0xFF8000, 0xE07000, 0x0000FF, 0x8A4A0A, 0xD96C00),
+                          Colours(0xFF8000, 0xE07000, 0x0000FF, 0x8A4A0A, 0xD96C00)},
   }};
   // clang-format on
   return table;
@@ -91,6 +96,20 @@ void KeepReadable(QWidget* widget) {
                            colours.color(QPalette::Active, QPalette::Window)));
   }
   widget->setPalette(colours);
+}
+
+void ShowOnAmber(QWidget* field) {
+  QPalette colours = field->palette();
+  colours.setColor(QPalette::Base, QColor(253, 221, 138));
+  colours.setColor(QPalette::Text, Qt::black);
+  field->setPalette(colours);
+}
+
+void ShowAsNotice(QWidget* label) {
+  QPalette colours = label->palette();
+  colours.setColor(QPalette::WindowText,
+                   IsDark(colours) ? QColor(0xFF, 0xB4, 0xA2) : QColor(0x9B, 0x1C, 0x0C));
+  label->setPalette(colours);
 }
 
 QFont ProgramFont(const QFont& base) {

@@ -34,6 +34,11 @@ void ShowOnLightBlue(QLabel* label);
 /// something before it can be changed.
 void KeepReadable(QWidget* widget);
 
+/// Draws a field's text black on the amber of results, in light and dark alike.
+void ShowOnAmber(QWidget* field);
+/// Draws `label` as a quiet notice of something that is not right yet.
+void ShowAsNotice(QWidget* label);
+
 /// `base`, the desktop's own font, in "Tahoma" where that exists.
 QFont ProgramFont(const QFont& base);
 

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -250,26 +251,30 @@ void ProcessTest::AKillWhileSavingLeavesOldOrNew() {
   PutStore(old);
   QProcess* undisturbed = Start();
   WaitUntilIdle(*undisturbed);
+  QElapsedTimer clock;
+  clock.start();
   End(undisturbed, SIGTERM);
+  const qint64 endingUs = clock.nsecsElapsed() / 1000;
   const QByteArray saved = Bytes(StoreName());
   QVERIFY(saved != old && saved.contains("Angle%20Type"));
 
   int oldOnes = 0;
-  for (int delayUs = 0; delayUs <= 12000; delayUs += 600) {
+  // Kills spread over the time that ending takes here.
+  constexpr int kKills = 24;
+  for (int n = 0; n < kKills; ++n) {
     PutStore(old);
     QProcess* process = Start();
     WaitUntilIdle(*process);
     const auto id = static_cast<pid_t>(process->processId());
     kill(id, SIGTERM);
-    QTest::qSleep(delayUs / 1000);
-    usleep(static_cast<unsigned>(delayUs % 1000));
+    usleep(static_cast<unsigned>(endingUs * n / kKills));
     kill(id, SIGKILL);
     QVERIFY(process->waitForFinished(kPatienceMs));
     const QByteArray left = Bytes(StoreName());
     QVERIFY(left == old || left == saved);
     oldOnes += left == old ? 1 : 0;
   }
-  qInfo("%d of 21 killed runs left the old content", oldOnes);
+  qInfo("%d of %d killed runs left the old content", oldOnes, kKills);
 }
 
 void ProcessTest::ADamagedStoreIsKept() {

@@ -22,7 +22,7 @@ void ExpectBoxes(const ConversionBoxes& boxes, std::wstring_view first, std::wst
   EXPECT_EQ(boxes.rate, rate);
 }
 
-TEST(EditorView, ByStateAndCount) {
+TEST(ListEditorView, ByStateAndCount) {
   const struct {
     bool editing;
     int count;
@@ -36,10 +36,10 @@ TEST(EditorView, ByStateAndCount) {
       {true, 60, L"List(60/60)", false, false},
   };
   for (const auto& c : cases) {
-    const EditorView view = ViewOfEditor(c.editing, c.count);
+    const ListEditorView view = ViewOfListEditor(c.editing, c.count, 60);
     EXPECT_EQ(view.listLabel, c.label);
     EXPECT_EQ(view.listEnabled, !c.editing);
-    EXPECT_EQ(view.boxesEnabled, c.editing);
+    EXPECT_EQ(view.fieldsEnabled, c.editing);
     EXPECT_EQ(view.closeShown, !c.editing);
     EXPECT_EQ(view.newShown, c.newShown) << Narrow(c.label);
     EXPECT_EQ(view.editShown, c.editShown) << Narrow(c.label);
@@ -50,14 +50,21 @@ TEST(EditorView, ByStateAndCount) {
   }
 }
 
-TEST(UserConversionEditor, OpensInTheViewStateWithNothingSelected) {
+TEST(UserConversionEditor, OpensInTheViewStateWithTheFirstSelected) {
   RecordingStore store = StoreWithConversions(2);
   UserConversionEditor editor(store);
   EXPECT_EQ(editor.View().listLabel, L"List(2/60)");
   EXPECT_TRUE(editor.View().closeShown);
+  EXPECT_EQ(editor.Selected(), 0);
+  ExpectBoxes(editor.Boxes(), L"A0", L"B0", L"1.5");
+  EXPECT_TRUE(store.writes.empty());
+}
+
+TEST(UserConversionEditor, OpensEmptyWithNothingSelected) {
+  RecordingStore store;
+  UserConversionEditor editor(store);
   EXPECT_EQ(editor.Selected(), -1);
   ExpectBoxes(editor.Boxes(), L"", L"", L"");
-  EXPECT_TRUE(store.writes.empty());
 }
 
 TEST(UserConversionEditor, SelectingShowsTheConversion) {
@@ -66,7 +73,7 @@ TEST(UserConversionEditor, SelectingShowsTheConversion) {
   editor.Select(1);
   EXPECT_EQ(editor.Selected(), 1);
   ExpectBoxes(editor.Boxes(), L"A1", L"B1", L"2.5");
-  EXPECT_FALSE(editor.View().boxesEnabled);
+  EXPECT_FALSE(editor.View().fieldsEnabled);
   for (const int outside : {2, -1, -100, 60}) {
     editor.Select(outside);
     EXPECT_EQ(editor.Selected(), -1) << outside;
@@ -86,6 +93,7 @@ TEST(UserConversionEditor, NewEmptiesTheBoxes) {
 TEST(UserConversionEditor, EditNeedsASelection) {
   RecordingStore store = StoreWithConversions(2);
   UserConversionEditor editor(store);
+  editor.Select(-1);
   EXPECT_EQ(editor.Edit(), ConversionBox::None);
   EXPECT_FALSE(editor.View().saveShown);
   editor.Select(1);
@@ -226,6 +234,7 @@ TEST(UserConversionEditor, AGroupedRateIsReadBackWhole) {
 TEST(UserConversionEditor, DeleteSelectsWhatTakesItsPlace) {
   RecordingStore store = StoreWithConversions(5);
   UserConversionEditor editor(store);
+  editor.Select(-1);
   editor.Delete();
   EXPECT_TRUE(store.writes.empty()) << "nothing is selected";
   editor.Select(2);

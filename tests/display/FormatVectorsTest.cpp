@@ -20,11 +20,11 @@ TEST(FormatVectors, Texts) {
   for (const auto& row : rows) {
     ASSERT_EQ(row.size(), 5u);
     std::wstring lastError;
-    const std::wstring text = FormatResult(
-        HexDouble(row[0]), static_cast<DisplayType>(Integer(row[1])), Integer(row[2]),
-        static_cast<BaseType>(Integer(row[3])), lastError);
-    EXPECT_EQ(Narrow(text), row[4]) << row[0] << " type " << row[1] << " precision " << row[2]
-                                    << " base " << row[3];
+    const std::wstring text =
+        FormatResult(HexDouble(row[0]), static_cast<DisplayType>(Integer(row[1])), Integer(row[2]),
+                     static_cast<BaseType>(Integer(row[3])), lastError);
+    EXPECT_EQ(Narrow(text), row[4])
+        << row[0] << " type " << row[1] << " precision " << row[2] << " base " << row[3];
     EXPECT_EQ(lastError.empty(), lastError != text);
   }
 }

@@ -12,16 +12,16 @@ struct Line {
   int command;
 };
 
-void ExpectLines(const std::vector<MemoryMenuItem>& items, const std::vector<Line>& expected) {
+void ExpectLines(const std::vector<PopupCommand>& items, const std::vector<Line>& expected) {
   ASSERT_EQ(items.size(), expected.size());
   for (std::size_t i = 0; i < items.size(); ++i) {
     EXPECT_EQ(items[i].caption, expected[i].caption);
-    EXPECT_EQ(static_cast<int>(items[i].command), expected[i].command);
+    EXPECT_EQ(items[i].command, expected[i].command);
   }
 }
 
 TEST(MemoryMenu, AllLinesWithAResult) {
-  ExpectLines(MemoryMenuItems(true), {{L"Memory +", 7},
+  ExpectLines(MemoryMenuCommands(true), {{L"Memory +", 7},
                                       {L"Memory -", 6},
                                       {L"Memory Recall", 5},
                                       {L"Memory Clear", 4},
@@ -31,7 +31,7 @@ TEST(MemoryMenu, AllLinesWithAResult) {
 }
 
 TEST(MemoryMenu, WithoutAResultNothingThatUsesIt) {
-  ExpectLines(MemoryMenuItems(false),
+  ExpectLines(MemoryMenuCommands(false),
               {{L"Memory Recall", 5}, {L"Memory Clear", 4}, {L"", 3}, {L"ReCall MemVar", 2}});
 }
 

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <string>
+
+#include "converter/UnitConverter.h"
+#include "toolkit/Dialog.h"
+
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace vexa {
+
+class Keypad;
+class TouchComboBox;
+
+/// Converts units. UnitConverter decides; after the dialog has closed, however, its positions and
+/// memory are the caller's to take back, and after "OK" its result text.
+class UnitConverterDialog : public Dialog {
+  Q_OBJECT
+
+ public:
+  UnitConverterDialog(SettingsStore& settingsStore, const ConverterPositions& positions,
+                      double memory, const std::wstring& inputText, QWidget* parent);
+
+  const UnitConverter& Converter() const { return converter; }
+
+  /// Closes the dialog, unless the result is out of range.
+  void accept() override;
+
+ private:
+  void BuildMenus();
+  void BuildCategory();
+  void BuildInput();
+  void BuildOutput();
+  /// Shows what the converter says, without converting again.
+  void Refresh();
+  void ShowOutput();
+
+  void PressKey(int index);
+  void ChangeCategory(int chosen);
+  void ChooseInput(int position);
+  void ChooseOutput(int position);
+  void EnterText(const QString& text);
+  void OpenMemoryMenu();
+  void RunMemoryCommand(int command);
+  void RecallVariable();
+  void StoreVariable();
+  void EditConversions();
+  void OpenOverInput(QDialog* dialog);
+
+  SettingsStore& store;
+  UnitConverter converter;
+  TouchComboBox* category;
+  Keypad* buttons;
+  QLineEdit* input;
+  QLabel* notice;
+  TouchComboBox* inputUnit;
+  QLineEdit* outputLine;
+  QPlainTextEdit* outputBlock;
+  TouchComboBox* outputUnit;
+};
+
+}  // namespace vexa

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "converter/UserConversionEditor.h"
+#include "toolkit/ListEditorDialog.h"
+
+class QLineEdit;
+
+namespace vexa {
+
+/// Creates, edits and deletes the user's own conversions. UserConversionEditor decides.
+class UserConversionDialog : public ListEditorDialog {
+  Q_OBJECT
+
+ public:
+  UserConversionDialog(SettingsStore& settingsStore, QWidget* parent);
+
+ private:
+  void BuildFields();
+  void Refresh();
+  void ShowConversions();
+  void Focus(ConversionBox box);
+
+  void New() override;
+  void Edit() override;
+  void Delete() override;
+  void Save() override;
+  void Cancel() override;
+  void RecallVariable() override;
+  void Select(int index) override;
+
+  SettingsStore& store;
+  UserConversionEditor editor;
+  QLineEdit* firstName;
+  QLineEdit* secondName;
+  QLineEdit* rate;
+};
+
+}  // namespace vexa

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace vexa {
+
+/// A drop-down list whose entries are high enough for a finger. Typing searches the entries.
+class TouchComboBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit TouchComboBox(QWidget* parent);
+
+  /// Appends an entry.
+  void AddLine(const QString& text);
+};
+
+}  // namespace vexa
