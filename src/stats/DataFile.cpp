@@ -1,0 +1,80 @@
+#include "stats/DataFile.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "stats/CellValue.h"
+#include "stats/WrappedSum.h"
+
+namespace vexa {
+namespace {
+
+/// "E" separates texts; meant.
+constexpr std::string_view kNumberCharacters = "0123456789.e+-";
+/// Characters of a count that are read.
+constexpr std::size_t kCountCharacters = 30;
+
+constexpr auto kIsNumberCharacter = [] {
+  std::array<bool, 256> table{};
+  for (const char c : kNumberCharacters) table[static_cast<unsigned char>(c)] = true;
+  return table;
+}();
+
+bool IsNumberCharacter(char c) {
+  return kIsNumberCharacter[static_cast<unsigned char>(c)];
+}
+
+}  // namespace
+
+DataFileReader::DataFileReader(std::size_t columns) : data{PackedRows(columns)}, texts(columns) {}
+
+void DataFileReader::Feed(std::string_view bytes) {
+  const auto end = bytes.end();
+  for (auto at = bytes.begin(); at != end;) {
+    const auto textEnd = std::find_if_not(at, end, IsNumberCharacter);
+    texts[field].append(at, textEnd);
+    // Of a count no more is kept than is read, however long it is.
+    if (AtCount() && texts[field].size() > kCountCharacters) texts[field].resize(kCountCharacters);
+    if (textEnd == end) return;
+    if (!texts[field].empty()) EndText();
+    at = std::find_if(textEnd, end, IsNumberCharacter);
+  }
+}
+
+void DataFileReader::EndText() {
+  if (!AtCount()) {
+    ++field;
+    return;
+  }
+  const std::int32_t count = CellCount(texts[field]);
+  data.total = WrappedSum(data.total, count);
+  texts[field] = std::to_string(count);
+  ++data.completeRows;
+  AppendRow();
+}
+
+void DataFileReader::AppendRow() {
+  data.rows.Append(texts);
+  for (std::string& text : texts) text.clear();
+  field = 0;
+}
+
+DataSet DataFileReader::Finish() {
+  texts[field].clear();
+  // An incomplete first row is kept; meant.
+  if (field > 0 && data.completeRows == 0) AppendRow();
+  return std::exchange(data, DataSet{PackedRows(texts.size())});
+}
+
+void WriteRows(const PackedRows& rows, std::size_t from, std::size_t to, std::string& bytes) {
+  for (std::size_t row = from; row < to; ++row) {
+    for (std::size_t column = 0; column < rows.Columns(); ++column) {
+      if (column > 0) bytes += '\t';
+      bytes += rows.Cell(row, column);
+    }
+    bytes += "\r\n";
+  }
+}
+
+}  // namespace vexa

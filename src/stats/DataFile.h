@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "stats/PackedRows.h"
+
+namespace vexa {
+
+/// What a data file holds.
+struct DataSet {
+  PackedRows rows;
+  /// The sum of the rows' counts, in 32 bits.
+  std::int32_t total = 0;
+  /// Rows with a text for every column. Only a file without any has an incomplete row.
+  std::size_t completeRows = 0;
+};
+
+/// Reads a data file: runs of number characters are the rows' texts in turn, everything else
+/// separates them, so that no bytes are malformed. A row's last text is its count.
+class DataFileReader {
+ public:
+  explicit DataFileReader(std::size_t columns);
+
+  /// Takes the next bytes of the file.
+  void Feed(std::string_view bytes);
+  /// What the file holds. A text that the end of the file cuts off is dropped, a row that misses
+  /// some text too, unless it is the first one. Ends the reading.
+  DataSet Finish();
+
+ private:
+  void EndText();
+  void AppendRow();
+  bool AtCount() const { return field + 1 == texts.size(); }
+
+  DataSet data;
+  /// The row that is being read: a text for every column.
+  std::vector<std::string> texts;
+  std::size_t field = 0;
+};
+
+/// Appends rows `from` to `to` - 1 to `bytes` as a data file has them: the texts separated by tabs,
+/// "\r\n" behind each row.
+void WriteRows(const PackedRows& rows, std::size_t from, std::size_t to, std::string& bytes);
+
+}  // namespace vexa

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "stats/DataList.h"
+#include "stats/RegressionModel.h"
+
+namespace vexa {
+
+/// The coefficients of a curve; C is the quadratic model's.
+struct Coefficients {
+  double a = 0.0;
+  double b = 0.0;
+  double c = 0.0;
+};
+
+/// Fits the chosen model to the rows of a list with two columns of values. Nothing is checked: what
+/// logarithms, divisions and powers outside their domain leave is the result.
+class Regression {
+ public:
+  /// `fittedList` must outlive the object.
+  explicit Regression(const DataList& fittedList) : list(fittedList) {}
+
+  RegressionModel Model() const { return model; }
+  void ChooseModel(RegressionModel chosen);
+  /// The rows have changed: the next request fits anew.
+  void Invalidate() { coefficientsValid = false; }
+
+  /// The coefficients of the current model, fitted unless they are valid still. A code outside the
+  /// enum keeps what is there.
+  const Coefficients& Fitted();
+  /// Fits one of the models that are not linear, with `count` coefficients (3 for the quadratic
+  /// one, else 2), unless the coefficients are valid, and returns one of them: A at index 0 and B
+  /// at any other; of the quadratic model C, B and A at 0, 1 and 2.
+  double FitCoefficients(RegressionModel fittedModel, std::size_t count, int index);
+  /// The linear correlation coefficient of the rows, whatever the model.
+  double Correlation() const;
+
+  /// The curve's Y at `x`.
+  double PredictY(double x);
+  /// The X where the curve has the value `y`; not for the quadratic model, which has two of them.
+  double PredictX(double y);
+  /// The two X where the quadratic curve has the value `y`.
+  double FirstRoot(double y);
+  double SecondRoot(double y);
+
+ private:
+  void FitLinear();
+
+  const DataList& list;
+  RegressionModel model = RegressionModel::Linear;
+  Coefficients coefficients;
+  bool coefficientsValid = false;
+};
+
+}  // namespace vexa

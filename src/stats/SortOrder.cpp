@@ -1,0 +1,97 @@
+#include "stats/SortOrder.h"
+
+#include <utility>
+
+namespace vexa {
+namespace {
+
+using Index = std::ptrdiff_t;
+
+/// Steps of work between two reports.
+constexpr Index kReportEvery = Index{1} << 16;
+
+struct Entry {
+  double value;
+  std::size_t index;
+};
+
+template <SortDirection direction>
+bool IsBefore(double a, double b) {
+  return direction == SortDirection::Ascending ? a < b : a > b;
+}
+
+template <SortDirection direction>
+class PartitionSort {
+ public:
+  PartitionSort(std::vector<Entry>& sortedEntries, const ProgressWatcher& progressWatcher)
+      : entries(sortedEntries), watcher(progressWatcher) {}
+
+  /// False when the watcher stopped it.
+  bool Run() { return Sort(0, static_cast<Index>(entries.size()) - 1); }
+
+ private:
+  Entry& At(Index i) { return entries[static_cast<std::size_t>(i)]; }
+
+  /// Sorts the entries from `low` to `high`. It calls itself for the smaller part and goes on with
+  /// the larger, so that no data can make it call itself deeply.
+  bool Sort(Index low, Index high) {
+    while (low < high) {
+      const auto [leftEnd, rightStart] = Partition(low, high);
+      if (!Report(high - low + 1, rightStart - leftEnd - 1)) return false;
+      const bool leftIsSmaller = leftEnd - low < high - rightStart;
+      if (!(leftIsSmaller ? Sort(low, leftEnd) : Sort(rightStart, high))) return false;
+      leftIsSmaller ? low = rightStart : high = leftEnd;
+    }
+    if (low == high) ++settled;
+    return true;
+  }
+
+  /// Exchanges entries until two parts are left to sort: `low` to the first of the result, and its
+  /// second to `high`.
+  std::pair<Index, Index> Partition(Index low, Index high) {
+    const double pivot = At((low + high) / 2).value;
+    Index left = low;
+    Index right = high;
+    while (left <= right) {
+      while (IsBefore<direction>(At(left).value, pivot)) ++left;
+      while (IsBefore<direction>(pivot, At(right).value)) --right;
+      if (left > right) break;
+      if (At(left).value != At(right).value) std::swap(At(left), At(right));
+      ++left;
+      --right;
+    }
+    return {right, left};
+  }
+
+  bool Report(Index steps, Index newlySettled) {
+    settled += newlySettled;
+    work += steps;
+    if (work < kReportEvery) return true;
+    work = 0;
+    return watcher(static_cast<double>(settled) / static_cast<double>(entries.size()));
+  }
+
+  std::vector<Entry>& entries;
+  const ProgressWatcher& watcher;
+  /// Entries that are in their final place.
+  Index settled = 0;
+  Index work = 0;
+};
+
+}  // namespace
+
+std::optional<std::vector<std::size_t>> SortOrder(std::span<const double> values,
+                                                  SortDirection direction,
+                                                  const ProgressWatcher& watcher) {
+  std::vector<Entry> entries(values.size());
+  for (std::size_t i = 0; i < values.size(); ++i) entries[i] = {values[i], i};
+  const bool sorted = direction == SortDirection::Ascending
+                          ? PartitionSort<SortDirection::Ascending>(entries, watcher).Run()
+                          : PartitionSort<SortDirection::Descending>(entries, watcher).Run();
+  if (!sorted) return std::nullopt;
+  std::vector<std::size_t> order(entries.size());
+  for (std::size_t i = 0; i < entries.size(); ++i) order[i] = entries[i].index;
+  return order;
+}
+
+}  // namespace vexa

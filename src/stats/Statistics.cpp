@@ -1,0 +1,117 @@
+#include "stats/Statistics.h"
+
+#include <utility>
+
+#include "display/FormatResult.h"
+#include "display/SettingsLayout.h"
+#include "stats/ResultKeys.h"
+
+namespace vexa {
+namespace {
+
+/// The values that a prediction reads: X and Y.
+constexpr std::size_t kPredictionValues = 2;
+
+}  // namespace
+
+Statistics::Statistics(SettingsStore& settingsStore, std::span<const ListColumn> columns)
+    : displayType(static_cast<DisplayType>(Read(settingsStore, settings::kDisplayType))),
+      precision(Read(settingsStore, settings::kPrecision)),
+      store(settingsStore),
+      list(columns),
+      regression(list) {}
+
+EntryFault Statistics::Add(const EntryTexts& texts) {
+  DataEntry entry;
+  EntryFault fault = ReadEntry(texts, entry);
+  if (!fault.sentence.empty()) return fault;
+  list.Add(CellTexts(entry), entry.count);
+  regression.Invalidate();
+  return {};
+}
+
+EntryTexts Statistics::Edit(std::size_t row) {
+  EntryTexts texts;
+  for (std::size_t column = 0; column < list.Columns().size(); ++column) {
+    const std::string_view cell = list.Cell(row, column);
+    texts.emplace_back(cell.begin(), cell.end());
+  }
+  list.Edit(row);
+  return texts;
+}
+
+EntryFault Statistics::Ok(const EntryTexts& texts) {
+  DataEntry entry;
+  EntryFault fault = ReadEntry(texts, entry);
+  if (!fault.sentence.empty()) return fault;
+  list.Ok(CellTexts(entry), entry.count);
+  regression.Invalidate();
+  return {};
+}
+
+void Statistics::Delete(std::size_t row) {
+  list.Delete(row);
+  regression.Invalidate();
+}
+
+void Statistics::Clear() {
+  list.Clear();
+  regression.Invalidate();
+}
+
+void Statistics::Load(DataSet data) {
+  list.Load(std::move(data));
+  regression.Invalidate();
+}
+
+EntryFault Statistics::ShowResult(std::wstring_view caption, const EntryTexts& texts) {
+  const ResultKey* const key = FindResultKey(caption);
+  if (!key) return {};
+  ResultSource source{list, regression};
+  if (key->isPrediction) {
+    DataEntry entry;
+    EntryFault fault = ReadValues(texts, kPredictionValues, entry);
+    if (!fault.sentence.empty()) return fault;
+    source.x = entry.values[0];
+    source.y = entry.values[1];
+  }
+  // Without a model there is nothing to compute, and the last result is shown again.
+  const bool computes = !key->isRegression || IsRegressionModel(regression.Model());
+  Show(computes ? key->compute(source) : lastResult);
+  return {};
+}
+
+void Statistics::ChooseModel(RegressionModel model) {
+  regression.ChooseModel(model);
+  list.ModelChosen(model == RegressionModel::Linear);
+}
+
+std::wstring Statistics::PreparePlot(RegressionPlot& plot) {
+  return PrepareRegressionPlot(list, regression, precision, lastError, plot);
+}
+
+void Statistics::SetDisplay(DisplayType type, int decimals) {
+  displayType = type;
+  precision = decimals;
+  Write(store, settings::kDisplayType, static_cast<int>(displayType));
+  Write(store, settings::kPrecision, precision);
+  if (!resultLine.empty()) Show(lastResult);
+}
+
+void Statistics::Show(double value) {
+  lastResult = value;
+  resultLine = Formatted(value, displayType);
+}
+
+std::wstring Statistics::Formatted(double value, DisplayType type) {
+  lastError.clear();
+  return FormatResult(value, type, precision, BaseType::Dec, lastError);
+}
+
+std::vector<std::wstring> Statistics::CellTexts(const DataEntry& entry) {
+  std::vector<std::wstring> texts;
+  for (const double value : entry.values) texts.push_back(FloatingText(value));
+  return texts;
+}
+
+}  // namespace vexa
