@@ -16,4 +16,9 @@ void TouchComboBox::AddLine(const QString& text) {
   setItemData(count() - 1, QSize(0, kTouchHeight), Qt::SizeHintRole);
 }
 
+void TouchComboBox::showPopup() {
+  emit Opening();
+  QComboBox::showPopup();
+}
+
 }  // namespace vexa

@@ -13,6 +13,12 @@ class TouchComboBox : public QComboBox {
 
   /// Appends an entry.
   void AddLine(const QString& text);
+
+  void showPopup() override;
+
+ signals:
+  /// The list is about to drop down.
+  void Opening();
 };
 
 }  // namespace vexa
