@@ -11,6 +11,7 @@
 #include "app/WindowPlace.h"
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
+#include "plotter/PlotterScreen.h"
 #include "toolkit/ComingScreen.h"
 
 namespace vexa {
@@ -30,9 +31,12 @@ ModeScreen* NewComingScreen(SettingsStore&, QWidget* parent) {
 ModeScreen* NewCalculatorScreen(SettingsStore& store, QWidget* parent) {
   return new CalculatorScreen(store, parent);
 }
+ModeScreen* NewPlotterScreen(SettingsStore& store, QWidget* parent) {
+  return new PlotterScreen(store, parent);
+}
 constexpr std::array<ModeScreen* (*)(SettingsStore&, QWidget*), kModes.size()> kNewScreen{
     NewCalculatorScreen,
-    NewComingScreen<Mode::FunctionPlotter>,
+    NewPlotterScreen,
     NewComingScreen<Mode::OneVarStatistics>,
     NewComingScreen<Mode::TwoVarStatistics>,
 };
