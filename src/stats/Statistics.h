@@ -55,7 +55,9 @@ class Statistics {
   std::wstring PreparePlot(RegressionPlot& plot);
 
   /// The lines of the "MEM" menu.
-  std::vector<MemoryMenuItem> MemoryItems() const { return VariableMenuItems(lastError.empty()); }
+  std::vector<PopupCommand> MemoryCommands() const {
+    return VariableMenuCommands(lastError.empty());
+  }
   /// The last result as memory variables keep it.
   std::wstring MemoryVariableText() { return FloatingText(lastResult); }
   /// What recalling a memory variable's value puts into an edit.
