@@ -93,7 +93,7 @@ void GraphViewDialog::BuildLists() {
   readOutList->setObjectName(QStringLiteral("Values"));
   readOutList->setAccessibleName(QStringLiteral("Values"));
   for (std::size_t i = 0; i < graph.Functions().size(); ++i) {
-    functionList->AddLine(FromWide(graph.Functions()[i].label));
+    functionList->addItem(FromWide(graph.Functions()[i].label));
     functionList->setItemIcon(static_cast<int>(i), CurveIcon(i));
   }
   connect(functionList, &QComboBox::activated, this, &GraphViewDialog::SelectFunction);
@@ -163,7 +163,7 @@ void GraphViewDialog::FillReadOuts() {
   const QSignalBlocker blocker(readOutList);
   readOutList->clear();
   for (std::size_t i = 0; i < graph.ReadOuts().size(); ++i) {
-    readOutList->AddLine(FromWide(graph.ReadOutLine(i)));
+    readOutList->addItem(FromWide(graph.ReadOutLine(i)));
   }
   readOutList->setCurrentIndex(graph.SelectedReadOut());
 }
