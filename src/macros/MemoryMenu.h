@@ -48,14 +48,14 @@ inline std::vector<PopupCommand> MemoryMenuCommands(bool hasResult) {
   return commands;
 }
 
-/// The lines of the screens that have memory variables and no memory register.
-inline std::vector<MemoryMenuItem> VariableMenuItems(bool hasResult) {
-  std::vector<MemoryMenuItem> items = MemoryMenuItems(hasResult);
-  std::erase_if(items, [](const MemoryMenuItem& item) {
-    return item.command != MemoryCommand::RecallVariable &&
-           item.command != MemoryCommand::StoreVariable;
+/// The commands of the screens that have memory variables and no memory register.
+inline std::vector<PopupCommand> VariableMenuCommands(bool hasResult) {
+  std::vector<PopupCommand> commands = MemoryMenuCommands(hasResult);
+  std::erase_if(commands, [](const PopupCommand& item) {
+    return item.command != static_cast<int>(MemoryCommand::RecallVariable) &&
+           item.command != static_cast<int>(MemoryCommand::StoreVariable);
   });
-  return items;
+  return commands;
 }
 
 }  // namespace vexa

@@ -64,10 +64,6 @@ std::vector<DataPoint> PointsOf(const DataList& list) {
   return points;
 }
 
-std::wstring Shortened(const std::wstring& curve) {
-  return curve.size() > kLongestShown ? curve.substr(0, kShownOfLonger) + L"..." : curve;
-}
-
 }  // namespace
 
 std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, int precision,
@@ -84,6 +80,10 @@ std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, 
   curve += pattern->afterB;
   if (pattern->hasC) curve += text(coefficients.c);
   return curve;
+}
+
+std::wstring ShortCurve(const std::wstring& curve) {
+  return curve.size() > kLongestShown ? curve.substr(0, kShownOfLonger) + L"..." : curve;
 }
 
 std::wstring PrepareRegressionPlot(const DataList& list, Regression& regression, int precision,
@@ -104,7 +104,7 @@ std::wstring PrepareRegressionPlot(const DataList& list, Regression& regression,
   parser.Validate(curve);
   if (!parser.errorText.empty()) {
     lastError = parser.errorText;
-    return Shortened(curve) + L" : " + lastError;
+    return ShortCurve(curve) + L" : " + lastError;
   }
   plot.label = std::wstring(kLabelStart) + curve;
   plot.tokens = parser.tokens;

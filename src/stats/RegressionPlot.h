@@ -35,6 +35,9 @@ struct RegressionPlot {
 std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, int precision,
                        std::wstring& lastError);
 
+/// A curve as a message shows it: a long one is cut.
+std::wstring ShortCurve(const std::wstring& curve);
+
 /// Prepares the plot of the current model over the rows' extent and 30% more on each side. Returns
 /// the message that refuses it (empty: success). `lastError` becomes the reason without the curve
 /// that an error of the expression engine is reported with; empty after a success.

@@ -54,8 +54,10 @@ class Statistics {
   /// Prepares the plot of the fitted curve; returns the message that refuses it, empty: success.
   std::wstring PreparePlot(RegressionPlot& plot);
 
-  /// The lines of the "MEM" menu.
-  std::vector<MemoryMenuItem> MemoryItems() const { return VariableMenuItems(lastError.empty()); }
+  /// The "MEM" menu.
+  std::vector<PopupCommand> MemoryCommands() const {
+    return VariableMenuCommands(lastError.empty());
+  }
   /// The last result as memory variables keep it.
   std::wstring MemoryVariableText() { return FloatingText(lastResult); }
   /// What recalling a memory variable's value puts into an edit.
