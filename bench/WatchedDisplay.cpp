@@ -18,6 +18,7 @@ namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
+constexpr std::size_t kPixels = std::size_t{kWidth} * kHeight;
 constexpr int kDepth = 24;
 constexpr int kPixelBytes = 4;
 constexpr std::uint32_t kColour = 0xFFFFFF;
@@ -65,7 +66,7 @@ WatchedDisplay::WatchedDisplay()
   if (image == nullptr || image->bytes_per_line != kWidth * kPixelBytes) {
     throw std::runtime_error("the display's pixels are not as expected");
   }
-  shared.shmid = shmget(IPC_PRIVATE, kWidth * kHeight * kPixelBytes, IPC_CREAT | 0600);
+  shared.shmid = shmget(IPC_PRIVATE, kPixels * kPixelBytes, IPC_CREAT | 0600);
   shared.shmaddr = image->data = static_cast<char*>(shmat(shared.shmid, nullptr, 0));
   XShmAttach(display, &shared);
   XSync(display, False);
@@ -87,7 +88,7 @@ Picture WatchedDisplay::Read() const {
   if (!XShmGetImage(display, DefaultRootWindow(display), image, 0, 0, AllPlanes)) {
     throw std::runtime_error("the display cannot be read");
   }
-  Picture picture(kWidth * kHeight);
+  Picture picture(kPixels);
   std::memcpy(picture.data(), shared.shmaddr, picture.size() * kPixelBytes);
   longestRead = std::max(longestRead, Milliseconds(Clock::now() - start));
   return picture;
@@ -95,7 +96,7 @@ Picture WatchedDisplay::Read() const {
 
 FinishedPicture WatchedDisplay::ReadFinished(Milliseconds settling, Milliseconds watching) const {
   std::this_thread::sleep_for(settling);
-  FinishedPicture finished{Read(), Picture(kWidth * kHeight, kColour)};
+  FinishedPicture finished{Read(), Picture(kPixels, kColour)};
   for (const auto start = Clock::now(); Clock::now() - start < watching;) {
     std::this_thread::sleep_for(kBetweenReads);
     const Picture later = Read();

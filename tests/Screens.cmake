@@ -8,6 +8,7 @@ vexa_rule_test(app_window_rules_test app/CalculatorKeypadTest.cpp app/WindowPlac
 
 vexa_screen_test(file_settings_store_test display/FileSettingsStoreTest.cpp)
 vexa_screen_test(edit_line_test toolkit/EditLineTest.cpp)
+vexa_screen_test(keypad_test toolkit/KeypadTest.cpp)
 vexa_screen_test(result_line_test toolkit/ResultLineTest.cpp)
 vexa_screen_test(theme_test toolkit/ThemeTest.cpp)
 vexa_screen_test(calculator_screen_test app/CalculatorScreenTest.cpp)

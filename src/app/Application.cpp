@@ -9,6 +9,7 @@
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
 #include "toolkit/Theme.h"
+#include "toolkit/TouchStyle.h"
 
 namespace vexa {
 namespace {
@@ -26,6 +27,7 @@ int Application::Run(int argc, char** argv) {
   QApplication application(argc, argv);
   application.setApplicationName(FromWide(settings::kSettingsKey));
   application.setDesktopFileName(QStringLiteral("vexa-calculator"));
+  application.setStyle(new TouchStyle);
   application.setFont(theme::ProgramFont(application.font()));
   // The frame ends the program, not the last of its boxes.
   application.setQuitOnLastWindowClosed(false);

@@ -111,7 +111,7 @@ void Calculator::SetDisplay(DisplayType type, int decimals) {
   precision = decimals;
   Write(store, settings::kDisplayType, static_cast<int>(displayType));
   Write(store, settings::kPrecision, precision);
-  ShowAnswer();
+  if (lastError.empty()) ShowAnswer();
 }
 
 std::wstring Calculator::RecallValueText(double value) {

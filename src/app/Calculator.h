@@ -29,7 +29,8 @@ class Calculator {
   void SetBase(BaseType target);
   /// Switches between degrees and radians.
   void ToggleAngle();
-  /// Changes and stores how numbers are shown, and shows the answer so.
+  /// Changes and stores how numbers are shown, and shows the answer so. The sentence of a failure
+  /// stays: there is no answer then.
   void SetDisplay(DisplayType type, int decimals);
   /// Adds the answer to the memory register, or subtracts it.
   void AddToMemory() { memory += answer; }

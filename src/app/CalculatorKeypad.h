@@ -1,28 +1,15 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 
 #include "engine/CalcModes.h"
-#include "toolkit/Key.h"
+#include "toolkit/KeypadState.h"
 
 namespace vexa {
 
-/// The rule state that decides which of the calculator's keys are shown and enabled.
-struct CalculatorKeypadState {
-  AngleType angleType = AngleType::Degrees;
-  bool historyIsEmpty = true;
-  BaseType base = BaseType::Dec;
-  /// Which of the two layers is visible.
-  bool shifted = false;
-};
-
 /// The calculator's keys. Keys that take each other's place share a cell.
 std::span<const Key> CalculatorKeys();
-
-/// Of the keys that share a cell, the one that `state` shows.
-bool IsKeyShown(const Key& key, const CalculatorKeypadState& state);
-/// True unless the key is shown but inert.
-bool IsKeyEnabled(const Key& key, const CalculatorKeypadState& state);
 
 /// A base as the menu of bases offers it.
 struct BaseChoice {

@@ -10,13 +10,12 @@
 #include "display/DisplayFormattingDialog.h"
 #include "display/WideText.h"
 #include "macros/MacroEditorDialog.h"
-#include "macros/MacroListDialog.h"
+#include "macros/MacroKey.h"
 #include "macros/MemoryMenu.h"
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/EditLine.h"
 #include "toolkit/KeyButton.h"
 #include "toolkit/Keypad.h"
-#include "toolkit/MessageBox.h"
 #include "toolkit/PopupMenu.h"
 #include "toolkit/ResultLine.h"
 
@@ -30,51 +29,37 @@ constexpr int kKeypadShare = 26;
 constexpr int kLeastEditHeight = 44;
 constexpr int kLeastResultHeight = 36;
 
-constexpr std::wstring_view kNoMacro = L"Not exist saved macro";
-
 }  // namespace
 
 /// The keys that run a command; all others insert their text.
 const CalculatorScreen::KeyCommand CalculatorScreen::kKeyCommands[] = {
-    {L"=", &CalculatorScreen::Evaluate},
-    {L"BS", &CalculatorScreen::Backspace},
-    {L"DEL", &CalculatorScreen::Delete},
-    {L"CLR", &CalculatorScreen::Clear},
-    {L"PB", &CalculatorScreen::RecallHistory},
-    {L"DEG", &CalculatorScreen::ToggleAngle},
-    {L"RAD", &CalculatorScreen::ToggleAngle},
-    {L"Shift", &CalculatorScreen::ToggleShift},
-    {L"DEC", &CalculatorScreen::ChooseBase},
-    {L"HEX", &CalculatorScreen::ChooseBase},
-    {L"BIN", &CalculatorScreen::ChooseBase},
-    {L"OCT", &CalculatorScreen::ChooseBase},
-    {L"Mac", &CalculatorScreen::InsertMacro},
-    {L"Cnv", &CalculatorScreen::ConvertUnits},
+    {L"=", &CalculatorScreen::Evaluate},         {L"PB", &CalculatorScreen::RecallHistory},
+    {L"DEG", &CalculatorScreen::ToggleAngle},    {L"RAD", &CalculatorScreen::ToggleAngle},
+    {L"DEC", &CalculatorScreen::ChooseBase},     {L"HEX", &CalculatorScreen::ChooseBase},
+    {L"BIN", &CalculatorScreen::ChooseBase},     {L"OCT", &CalculatorScreen::ChooseBase},
+    {L"Mac", &CalculatorScreen::InsertMacro},    {L"Cnv", &CalculatorScreen::ConvertUnits},
     {L"MEM", &CalculatorScreen::OpenMemoryMenu},
 };
 
 CalculatorScreen::CalculatorScreen(SettingsStore& settingsStore, QWidget* parent)
-    : ModeScreen(Mode::ScientificCalculator, parent),
+    : ExpressionScreen(Mode::ScientificCalculator, CalculatorKeys(), parent),
       store(settingsStore),
       calculator(settingsStore),
-      editLine(new EditLine(this)),
-      resultLine(new ResultLine(this)),
-      keypad(new Keypad(CalculatorKeys(), this)) {
-  editLine->setObjectName(QStringLiteral("Expression"));
-  editLine->setAccessibleName(QStringLiteral("Expression"));
-  editLine->setMinimumHeight(kLeastEditHeight);
+      resultLine(new ResultLine(this)) {
+  Line()->setObjectName(QStringLiteral("Expression"));
+  Line()->setAccessibleName(QStringLiteral("Expression"));
+  Line()->setMinimumHeight(kLeastEditHeight);
   resultLine->setObjectName(QStringLiteral("Result"));
   resultLine->setAccessibleName(QStringLiteral("Result"));
   resultLine->setMinimumHeight(kLeastResultHeight);
-  Content()->addWidget(editLine, kEditShare);
+  Content()->addWidget(Line(), kEditShare);
   Content()->addWidget(resultLine, kResultShare);
-  Content()->addWidget(keypad, kKeypadShare);
+  Content()->addWidget(Keys(), kKeypadShare);
 
+  setTabOrder(Line(), resultLine);
   BuildFileMenu();
-  BuildEditMenu();
-  SetDefaultButton(keypad->Button(L"="));
-  setFocusProxy(editLine);
-  connect(keypad, &Keypad::KeyPressed, this, &CalculatorScreen::PressKey);
+  BuildEditMenu(resultLine);
+  SetDefaultButton(Keys()->Button(L"="));
   Refresh();
 }
 
@@ -88,114 +73,58 @@ void CalculatorScreen::BuildFileMenu() {
   AddFileCommand(QStringLiteral("Edit &Unit Convert"), this, &CalculatorScreen::EditConversions);
 }
 
-void CalculatorScreen::BuildEditMenu() {
-  struct EditCommand {
-    const char* text;
-    QKeySequence::StandardKey shortcut;
-    void (CalculatorScreen::*run)();
-  };
-  constexpr EditCommand kEditCommands[] = {
-      {"Cu&t", QKeySequence::Cut, &CalculatorScreen::Cut},
-      {"&Copy", QKeySequence::Copy, &CalculatorScreen::Copy},
-      {"&Paste", QKeySequence::Paste, &CalculatorScreen::Paste},
-  };
-  QMenu* const menu = AddMenu(QStringLiteral("&Edit"));
-  for (const EditCommand& command : kEditCommands) {
-    QAction* const action = menu->addAction(QString::fromLatin1(command.text), this, command.run);
-    action->setShortcuts(command.shortcut);
+void CalculatorScreen::RunKey(std::wstring_view caption) {
+  for (const KeyCommand& command : kKeyCommands) {
+    if (command.caption == caption) return (this->*command.run)();
   }
 }
 
-void CalculatorScreen::PressKey(int index) {
-  const Key& key = CalculatorKeys()[static_cast<std::size_t>(index)];
-  if (!key.inserts.IsEmpty()) {
-    editLine->ApplyChange(TypeKey(editLine->State(), key.inserts));
-    return;
-  }
-  for (const KeyCommand& command : kKeyCommands) {
-    if (command.caption == key.caption) return (this->*command.run)();
-  }
+KeypadState CalculatorScreen::State() const {
+  return {calculator.angleType, calculator.history.IsEmpty(), calculator.baseType, IsShifted()};
 }
 
 void CalculatorScreen::Refresh() {
-  const CalculatorKeypadState state{calculator.angleType, calculator.history.IsEmpty(),
-                                    calculator.baseType, shifted};
-  keypad->Refresh([&](const Key& key) { return IsKeyShown(key, state); },
-                  [&](const Key& key) { return IsKeyEnabled(key, state); });
+  RefreshKeypad();
   resultLine->ShowText(FromWide(calculator.resultLine));
 }
 
 void CalculatorScreen::Evaluate() {
-  calculator.Evaluate(editLine->Text());
+  calculator.Evaluate(Line()->Text());
   Refresh();
-  editLine->SelectWholeText();
-}
-
-void CalculatorScreen::Backspace() {
-  editLine->ApplyChange(DeleteBefore(editLine->State()));
-}
-
-void CalculatorScreen::Delete() {
-  editLine->ApplyChange(DeleteAfter(editLine->State()));
-}
-
-void CalculatorScreen::Clear() {
-  editLine->ApplyChange(DeleteAll(editLine->State()));
+  Line()->SelectWholeText();
 }
 
 void CalculatorScreen::ToggleAngle() {
   calculator.ToggleAngle();
   Refresh();
-  editLine->setFocus();
+  Line()->setFocus();
 }
 
 void CalculatorScreen::RecallHistory() {
-  editLine->setFocus();
-  std::vector<PopupCommand> entries;
-  for (int index = calculator.history.Count(); index >= 1; --index) {
-    entries.push_back({index, calculator.history.Caption(index)});
-  }
-  if (entries.empty()) return;
-  ShowPopupMenu(keypad, keypad->rect().topRight(), PopupSide::Left, entries, [this](int index) {
-    InsertIntoLine(calculator.RecallHistory(index));
-  })->setObjectName(QStringLiteral("History"));
-}
-
-void CalculatorScreen::ToggleShift() {
-  shifted = !shifted;
-  Refresh();
-  editLine->setFocus();
+  ShowHistory(calculator.history,
+              [this](int index) { InsertIntoLine(calculator.RecallHistory(index)); });
 }
 
 void CalculatorScreen::ChooseBase() {
-  editLine->setFocus();
+  Line()->setFocus();
   std::vector<PopupCommand> bases;
   for (const BaseChoice& choice : kBaseMenu) {
     bases.push_back({static_cast<int>(choice.base), std::wstring(choice.name)});
   }
-  ShowPopupMenu(keypad, keypad->rect().topLeft(), PopupSide::Right, bases,
-                [this](int base) {
-                  calculator.SetBase(static_cast<BaseType>(base));
-                  Refresh();
-                },
-                std::wstring(kBaseMenuTitle))
+  ShowPopupMenu(
+      Keys(), Keys()->rect().topLeft(), PopupSide::Right, bases,
+      [this](int base) {
+        calculator.SetBase(static_cast<BaseType>(base));
+        Refresh();
+      },
+      std::wstring(kBaseMenuTitle))
       ->setObjectName(QStringLiteral("Bases"));
 }
 
 void CalculatorScreen::InsertMacro() {
-  calculator.macros.LoadMacroTable();
-  if (calculator.macros.Count() == 0) {
-    ShowErrorBox(this, std::wstring(kNoMacro), [this] { EditMacros(); });
-    return;
+  if (QDialog* const picker = NewMacroPicker(store, Line(), this, [this] { EditMacros(); })) {
+    OpenDialog(picker);
   }
-  auto* const dialog = new MacroListDialog(store, this);
-  connect(dialog, &MacroListDialog::Picked, this, &CalculatorScreen::InsertMacroCall);
-  OpenDialog(dialog);
-}
-
-void CalculatorScreen::InsertMacroCall(int index) {
-  const MacroCall call = CallOf(calculator.macros.At(index));
-  editLine->ApplyChange(WrapSelection(editLine->State(), call.prefix, call.suffix));
 }
 
 void CalculatorScreen::EditMacros() {
@@ -205,9 +134,8 @@ void CalculatorScreen::EditMacros() {
 }
 
 void CalculatorScreen::ConvertUnits() {
-  auto* const dialog =
-      new UnitConverterDialog(store, calculator.converterPositions, calculator.memory,
-                              calculator.ConverterInput(), this);
+  auto* const dialog = new UnitConverterDialog(
+      store, calculator.converterPositions, calculator.memory, calculator.ConverterInput(), this);
   connect(dialog, &QDialog::finished, this, [this, dialog](int outcome) {
     const UnitConverter& converter = dialog->Converter();
     calculator.TakeFromConverter(converter.Positions(), converter.Memory());
@@ -221,8 +149,8 @@ void CalculatorScreen::EditConversions() {
 }
 
 void CalculatorScreen::OpenMemoryMenu() {
-  editLine->setFocus();
-  ShowPopupMenu(keypad, keypad->Button(L"MEM")->geometry().topLeft(), PopupSide::Right,
+  Line()->setFocus();
+  ShowPopupMenu(Keys(), Keys()->Button(L"MEM")->geometry().topLeft(), PopupSide::Right,
                 MemoryMenuCommands(calculator.lastError.empty()),
                 [this](int command) { RunMemoryCommand(command); })
       ->setObjectName(QStringLiteral("Memory"));
@@ -267,32 +195,6 @@ void CalculatorScreen::Configure() {
     Refresh();
   });
   OpenDialog(dialog);
-}
-
-void CalculatorScreen::OpenDialog(QDialog* dialog) {
-  connect(dialog, &QDialog::finished, editLine, qOverload<>(&QWidget::setFocus));
-  dialog->open();
-}
-
-void CalculatorScreen::InsertIntoLine(const std::wstring& text) {
-  editLine->ApplyChange(InsertText(editLine->State(), text));
-}
-
-void CalculatorScreen::Cut() {
-  editLine->cut();
-  editLine->setFocus();
-}
-
-void CalculatorScreen::Copy() {
-  // The result has its own selection; the focus tells which one is meant.
-  if (resultLine->hasFocus()) return resultLine->copy();
-  editLine->copy();
-  editLine->setFocus();
-}
-
-void CalculatorScreen::Paste() {
-  editLine->paste();
-  editLine->setFocus();
 }
 
 }  // namespace vexa

@@ -1,19 +1,15 @@
 #pragma once
 
 #include "app/Calculator.h"
-#include "toolkit/ModeScreen.h"
-
-class QDialog;
+#include "toolkit/ExpressionScreen.h"
 
 namespace vexa {
 
-class EditLine;
-class Keypad;
 class ResultLine;
 
 /// The scientific calculator's screen: edit line, result line and keypad. It shows and forwards;
 /// Calculator and the key table decide.
-class CalculatorScreen : public ModeScreen {
+class CalculatorScreen : public ExpressionScreen {
   Q_OBJECT
 
  public:
@@ -21,6 +17,10 @@ class CalculatorScreen : public ModeScreen {
   CalculatorScreen(SettingsStore& store, QWidget* parent);
   /// Writes the settings.
   ~CalculatorScreen() override;
+
+ protected:
+  KeypadState State() const override;
+  void RunKey(std::wstring_view caption) override;
 
  private:
   struct KeyCommand {
@@ -30,20 +30,13 @@ class CalculatorScreen : public ModeScreen {
   static const KeyCommand kKeyCommands[];
 
   void BuildFileMenu();
-  void BuildEditMenu();
-  void PressKey(int index);
   void Refresh();
 
   void Evaluate();
-  void Backspace();
-  void Delete();
-  void Clear();
   void ToggleAngle();
   void RecallHistory();
-  void ToggleShift();
   void ChooseBase();
   void InsertMacro();
-  void InsertMacroCall(int index);
   void ConvertUnits();
   void EditConversions();
   void OpenMemoryMenu();
@@ -52,20 +45,10 @@ class CalculatorScreen : public ModeScreen {
   void StoreVariable();
   void Configure();
   void EditMacros();
-  void Cut();
-  void Copy();
-  void Paste();
-
-  /// Gives the edit line the focus again when `dialog` is closed, and opens it.
-  void OpenDialog(QDialog* dialog);
-  void InsertIntoLine(const std::wstring& text);
 
   SettingsStore& store;
   Calculator calculator;
-  bool shifted = false;
-  EditLine* editLine;
   ResultLine* resultLine;
-  Keypad* keypad;
 };
 
 }  // namespace vexa

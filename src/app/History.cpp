@@ -11,8 +11,10 @@
 namespace vexa {
 namespace {
 
-constexpr std::size_t kLongestCaption = 17;
-constexpr std::size_t kShortenedCaption = 14;
+constexpr HistoryKind kHistory{.capacity = History::kCapacity,
+                               .count = settings::kCalHistoryCount,
+                               .entry = settings::kCalHistory,
+                               .caption = {.longest = 17, .kept = 14}};
 
 /// A result entry is "=[D]" and a text: where its base letter and its text stand.
 constexpr std::size_t kBaseLetter = 2;
@@ -51,8 +53,12 @@ double ReadDigits(std::wstring_view text, int radix) {
   return value;
 }
 
-double ReadBinary(std::wstring_view text) { return ReadDigits(text, 2); }
-double ReadOctal(std::wstring_view text) { return ReadDigits(text, 8); }
+double ReadBinary(std::wstring_view text) {
+  return ReadDigits(text, 2);
+}
+double ReadOctal(std::wstring_view text) {
+  return ReadDigits(text, 8);
+}
 
 /// Any other letter or base counts as the first.
 constexpr ResultBase kResultBases[] = {
@@ -70,32 +76,7 @@ const ResultBase& FindBase(Predicate matches) {
 
 }  // namespace
 
-void History::AddHistory(std::wstring_view text) {
-  if (!entries.empty() && entries.back() == text) return;
-  // Copied first: `text` may be an entry that moves.
-  std::wstring entry(text);
-  if (Count() == kCapacity) entries.erase(entries.begin());
-  entries.push_back(std::move(entry));
-}
-
-std::wstring History::Caption(int index) const {
-  const std::wstring& entry = At(index);
-  if (entry.size() <= kLongestCaption) return entry;
-  return entry.substr(0, kShortenedCaption) + L"...";
-}
-
-void History::Load(const SettingsStore& store) {
-  const int count = settings::ClampCount(Read(store, settings::kCalHistoryCount), kCapacity);
-  entries.assign(static_cast<std::size_t>(count), {});
-  for (int i = count; i >= 1; --i) {
-    entries[static_cast<std::size_t>(i - 1)] = Read(store, settings::kCalHistory, i);
-  }
-}
-
-void History::Save(SettingsStore& store) const {
-  Write(store, settings::kCalHistoryCount, Count());
-  for (int i = 1; i <= Count(); ++i) Write(store, settings::kCalHistory, i, At(i));
-}
+History::History() : TextHistory(kHistory) {}
 
 std::wstring ResultEntry(BaseType base, std::wstring_view displayText) {
   const ResultBase& tag = FindBase([&](const ResultBase& b) { return b.base == base; });

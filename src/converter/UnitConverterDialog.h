@@ -38,7 +38,7 @@ class UnitConverterDialog : public Dialog {
   void ShowOutput();
 
   void PressKey(int index);
-  void ChangeCategory(int category);
+  void ChangeCategory(int chosen);
   void ChooseInput(int position);
   void ChooseOutput(int position);
   void EnterText(const QString& text);

@@ -52,6 +52,7 @@ void UserConversionDialog::BuildFields() {
 
 void UserConversionDialog::ShowConversions() {
   std::vector<std::wstring> lines;
+  lines.reserve(static_cast<std::size_t>(editor.Conversions().Count()));
   for (int i = 0; i < editor.Conversions().Count(); ++i) {
     lines.push_back(editor.Conversions().At(i).name);
   }

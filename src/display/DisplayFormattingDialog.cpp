@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "display/WideText.h"
+#include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/Theme.h"
 #include "toolkit/TouchSize.h"
@@ -20,21 +21,30 @@ DisplayFormattingDialog::DisplayFormattingDialog(DisplayType type, int decimals,
       decimalPlaces(decimals),
       choices(new QButtonGroup(this)),
       decimalsBox(new QLineEdit(QString::number(decimals), this)) {
-  theme::ShowOnLightBlue(AddLabel(L"Display Formatting"));
+  QLabel* const heading = AddLabel(L"Display Formatting");
+  QFont bold;
+  bold.setBold(true);
+  heading->setFont(bold);
+  theme::ShowOnLightBlue(heading);
+  auto* const rows = new QVBoxLayout;
+  rows->setSpacing(0);
+  Content()->addLayout(rows);
   for (const DisplayChoice& choice : kDisplayChoices) {
     auto* const button = new QRadioButton(FromWide(choice.caption), this);
     button->setObjectName(FromWide(choice.caption));
     button->setMinimumHeight(kTouchHeight);
     button->setChecked(choice.type == type);
     choices->addButton(button, static_cast<int>(choice.type));
-    Content()->addWidget(button);
+    rows->addWidget(button);
   }
   decimalsBox->setMinimumHeight(kTouchHeight);
-  theme::ShowOnLightBlue(AddField(L"Number of decimal places", decimalsBox));
+  new KeyboardOnFocus(decimalsBox);
+  theme::KeepReadable(decimalsBox);
+  theme::ShowOnLightBlue(AddFieldRow(L"Number of decimal places", decimalsBox));
   QHBoxLayout* const row = AddButtonRow();
   SetDefault(AddButton(row, L"OK", this, &DisplayFormattingDialog::accept));
   AddButton(row, L"Cancel", this, &DisplayFormattingDialog::reject);
-  connect(choices, &QButtonGroup::idClicked, this, &DisplayFormattingDialog::EnableDecimals);
+  connect(choices, &QButtonGroup::idToggled, this, &DisplayFormattingDialog::EnableDecimals);
   EnableDecimals();
 }
 
@@ -56,7 +66,11 @@ void DisplayFormattingDialog::accept() {
     return;
   }
   decimalsBox->setText(QString::number(decimalPlaces));
-  ShowErrorBox(this, sentence, [this] { decimalsBox->setFocus(); });
+  // A stored number out of range is refused in the disabled box too; the next "OK" takes the 7.
+  ShowErrorBox(this, sentence, [this] {
+    decimalsBox->setFocus();
+    decimalsBox->selectAll();
+  });
 }
 
 }  // namespace vexa

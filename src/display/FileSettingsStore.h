@@ -20,7 +20,7 @@ namespace vexa {
 class FileSettingsStore : public SettingsStore {
  public:
   /// No store of this program grows to this size in bytes.
-  static constexpr qint64 kLargestFile = 64 * 1024 * 1024;
+  static constexpr qint64 kLargestFile = qint64{64} * 1024 * 1024;
 
   /// `folder` holds the key's folder; it is created when it is missing.
   explicit FileSettingsStore(QString folder = UserFolder());

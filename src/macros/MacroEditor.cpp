@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "engine/EngineErrors.h"
-
 namespace vexa {
 namespace {
 
@@ -39,7 +37,7 @@ void MacroEditor::Edit() {
 
 MacroEditor::Refusal MacroEditor::Save(const Fields& fields) {
   const Fields trimmed{Trimmed(fields.name), fields.type, Trimmed(fields.formula)};
-  const Refusal refusal = Check(trimmed);
+  Refusal refusal = Check(trimmed);
   if (!refusal.sentence.empty()) return refusal;
   const std::wstring_view type = kMacroTypes[static_cast<std::size_t>(trimmed.type)].storedText;
   if (edited < 0) {
@@ -53,7 +51,13 @@ MacroEditor::Refusal MacroEditor::Save(const Fields& fields) {
   return {};
 }
 
-void MacroEditor::Cancel() { editing = false; }
+std::wstring_view MacroEditor::CheckFormulaLength(std::size_t length) {
+  return length > kMaxFormulaLength ? kFormulaTooLong : std::wstring_view{};
+}
+
+void MacroEditor::Cancel() {
+  editing = false;
+}
 
 void MacroEditor::Delete() {
   if (selected < 0) return;
@@ -101,9 +105,8 @@ MacroEditor::Refusal MacroEditor::Check(const Fields& trimmed) const {
   }
   if (trimmed.type < 0) return {L"Argument Type is NULL", Field::Type};
   if (trimmed.formula.empty()) return {L"Macro Expression is NULL", Field::Formula};
-  if (trimmed.formula.size() > kMaxFormulaLength) {
-    return {ErrorText(ErrorCode::LengthLimit, {}, {}), Field::Formula};
-  }
+  const std::wstring_view tooLong = CheckFormulaLength(trimmed.formula.size());
+  if (!tooLong.empty()) return {std::wstring(tooLong), Field::Formula};
   ExprParser parser;
   parser.formulaType = kMacroTypes[static_cast<std::size_t>(trimmed.type)].formulaType;
   parser.Validate(trimmed.formula);

@@ -12,6 +12,7 @@ class MacroEditor {
  public:
   /// Characters of a formula at most.
   static constexpr std::size_t kMaxFormulaLength = 150;
+  static constexpr std::wstring_view kFormulaTooLong = L"Macro Expression exceeded length limit.";
   static constexpr std::wstring_view kDeleteQuestion =
       L"Are you sure you want to delete the selected macro?";
 
@@ -54,6 +55,8 @@ class MacroEditor {
   /// Checks the fields, stores the macro, selects it and returns to the view state; or tells why
   /// not.
   Refusal Save(const Fields& fields);
+  /// Why a formula of `length` characters is refused; empty: it has room.
+  static std::wstring_view CheckFormulaLength(std::size_t length);
   /// Returns to the view state.
   void Cancel();
   /// Deletes the selected macro and selects the one that takes its place, or the last one.

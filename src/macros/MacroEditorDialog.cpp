@@ -9,7 +9,10 @@
 #include "display/WideText.h"
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/EditLine.h"
+#include "toolkit/KeyboardOnFocus.h"
+#include "toolkit/LineText.h"
 #include "toolkit/MessageBox.h"
+#include "toolkit/Theme.h"
 #include "toolkit/TouchList.h"
 #include "toolkit/TouchSize.h"
 
@@ -17,7 +20,11 @@ namespace vexa {
 namespace {
 
 constexpr int kOpeningHeight = 480;
-constexpr int kFormulaHeight = 76;
+/// A formula of 150 characters is shown whole; on the smallest screens the list goes first.
+constexpr int kFormulaHeight = 108;
+constexpr int kFormulaText = 14;
+constexpr int kLeastFormulaHeight = 44;
+constexpr int kLeastListHeight = kTouchHeight + 8;
 
 }  // namespace
 
@@ -25,7 +32,7 @@ MacroEditorDialog::MacroEditorDialog(SettingsStore& settingsStore, QWidget* pare
     : Dialog(QStringLiteral("MacroEditor"), parent), store(settingsStore), editor(settingsStore) {
   BuildFields();
   BuildButtons();
-  resize(width(), kOpeningHeight);
+  SetOpeningHeight(kOpeningHeight);
   FillList();
   Refresh();
   list->setFocus();
@@ -34,17 +41,24 @@ MacroEditorDialog::MacroEditorDialog(SettingsStore& settingsStore, QWidget* pare
 void MacroEditorDialog::BuildFields() {
   name = new QLineEdit(this);
   name->setMinimumHeight(kTouchHeight);
-  AddField(L"Macro Name", name);
+  new KeyboardOnFocus(name);
+  AddFieldRow(L"Macro Name", name);
   type = new QComboBox(this);
   type->setMinimumHeight(kTouchHeight);
   for (const MacroType& macroType : kMacroTypes) type->addItem(FromWide(macroType.storedText));
-  AddField(L"Argument Type", type);
+  AddFieldRow(L"Argument Type", type);
   formula = new EditLine(this, MacroEditor::kMaxFormulaLength);
-  formula->setFixedHeight(kFormulaHeight);
-  AddField(L"Macro Expression(Max Len:150)", formula);
+  formula->SetLargestText(kFormulaText);
+  formula->setMinimumHeight(kLeastFormulaHeight);
+  formula->setMaximumHeight(kFormulaHeight);
+  new KeyboardOnFocus(formula);
+  AddField(L"Macro Expression(Max Len:150)", formula, kFormulaHeight);
   list = new TouchList(this);
-  listLabel = AddField(L"List", list, 1);
-  connect(list, &QListWidget::currentRowChanged, this, &MacroEditorDialog::SelectMacro);
+  list->setMinimumHeight(kLeastListHeight);
+  listLabel = AddField(L"List", list, kFormulaHeight);
+  for (QWidget* const field : Fields()) theme::KeepReadable(field);
+  theme::KeepReadable(list);
+  connect(list, &QListWidget::itemSelectionChanged, this, &MacroEditorDialog::SelectMacro);
 }
 
 void MacroEditorDialog::BuildButtons() {
@@ -58,35 +72,41 @@ void MacroEditorDialog::BuildButtons() {
   cancelButton = AddButton(row, L"Cancel", this, &MacroEditorDialog::Cancel);
 }
 
+std::array<QWidget*, 3> MacroEditorDialog::Fields() const {
+  return {name, type, formula};
+}
+
 void MacroEditorDialog::FillList() {
   const QSignalBlocker blocker(list);
   list->clear();
   const MacroTable& macros = editor.Macros();
   for (int i = 0; i < macros.Count(); ++i) list->AddLine(FromWide(MacroLine(macros.At(i))));
-  list->setCurrentRow(editor.Selected());
+  list->SelectRow(editor.Selected());
 }
 
 void MacroEditorDialog::Refresh() {
   const MacroEditor::Controls controls = editor.ShownControls();
   list->setEnabled(controls.listEnabled);
-  for (QWidget* const field : {static_cast<QWidget*>(name), static_cast<QWidget*>(type),
-                               static_cast<QWidget*>(formula)}) {
-    field->setEnabled(controls.fieldsEnabled);
+  for (QWidget* const field : Fields()) field->setEnabled(controls.fieldsEnabled);
+  const std::pair<QPushButton*, bool> buttons[] = {
+      {newButton, controls.newShown},       {editButton, controls.editShown},
+      {deleteButton, controls.deleteShown}, {closeButton, controls.closeShown},
+      {memButton, controls.memShown},       {saveButton, controls.saveShown},
+      {cancelButton, controls.cancelShown},
+  };
+  // First those that go: all of them side by side would widen the window.
+  for (const bool shown : {false, true}) {
+    for (const auto& [button, isShown] : buttons) {
+      if (isShown == shown) button->setVisible(shown);
+    }
   }
-  newButton->setVisible(controls.newShown);
-  editButton->setVisible(controls.editShown);
-  deleteButton->setVisible(controls.deleteShown);
-  closeButton->setVisible(controls.closeShown);
-  memButton->setVisible(controls.memShown);
-  saveButton->setVisible(controls.saveShown);
-  cancelButton->setVisible(controls.cancelShown);
   SetDefault(editor.IsEditing() ? saveButton : closeButton);
 
   listLabel->setText(FromWide(editor.ListLabel()));
   const MacroEditor::Fields fields = editor.ShownFields();
   name->setText(FromWide(fields.name));
   type->setCurrentIndex(fields.type);
-  formula->setPlainText(FromWide(fields.formula));
+  formula->setPlainText(FromWide(LineText(fields.formula)));
 }
 
 void MacroEditorDialog::New() {
@@ -105,8 +125,7 @@ void MacroEditorDialog::Delete() {
   if (editor.Selected() < 0) return;
   AskYesNo(this, std::wstring(MacroEditor::kDeleteQuestion), [this] {
     editor.Delete();
-    FillList();
-    Refresh();
+    ShowViewState();
   });
 }
 
@@ -114,44 +133,44 @@ void MacroEditorDialog::Save() {
   const MacroEditor::Refusal refusal =
       editor.Save({name->text().toStdWString(), type->currentIndex(), formula->Text()});
   if (!refusal.sentence.empty()) {
-    QWidget* const field = FieldWidget(refusal.field);
+    QWidget* const field = Fields()[static_cast<std::size_t>(refusal.field)];
     ShowErrorBox(this, refusal.sentence, [field] { field->setFocus(); });
     return;
   }
-  FillList();
-  Refresh();
+  ShowViewState();
 }
 
 void MacroEditorDialog::Cancel() {
   editor.Cancel();
+  ShowViewState();
+}
+
+void MacroEditorDialog::ShowViewState() {
+  FillList();
   Refresh();
   list->setFocus();
 }
 
 void MacroEditorDialog::RecallVariable() {
   auto* const dialog = new MemoryVariableDialog(store, this);
-  connect(dialog, &MemoryVariableDialog::Recalled, this, [this](int index) {
-    formula->ApplyChange(InsertText(formula->State(), MemoryVariables(store).Text(index)));
-  });
+  connect(dialog, &MemoryVariableDialog::Recalled, this, &MacroEditorDialog::InsertVariable);
   connect(dialog, &QDialog::finished, formula, qOverload<>(&QWidget::setFocus));
   dialog->open();
 }
 
-void MacroEditorDialog::SelectMacro(int index) {
-  editor.Select(index);
-  Refresh();
+void MacroEditorDialog::InsertVariable(int index) {
+  const EditText before = formula->State();
+  const TextChange change = InsertText(before, MemoryVariables(store).Text(index));
+  // A number of which only the front has room would be another number.
+  const std::wstring_view tooLong =
+      MacroEditor::CheckFormulaLength(Apply(before, change).text.size());
+  if (tooLong.empty()) return formula->ApplyChange(change);
+  ShowErrorBox(this, std::wstring(tooLong), [this] { formula->setFocus(); });
 }
 
-QWidget* MacroEditorDialog::FieldWidget(MacroEditor::Field field) const {
-  switch (field) {
-    case MacroEditor::Field::Type:
-      return type;
-    case MacroEditor::Field::Formula:
-      return formula;
-    case MacroEditor::Field::Name:
-      break;
-  }
-  return name;
+void MacroEditorDialog::SelectMacro() {
+  editor.Select(list->SelectedRow());
+  Refresh();
 }
 
 void MacroEditorDialog::reject() {

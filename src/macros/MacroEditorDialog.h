@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "macros/MacroEditor.h"
 #include "toolkit/Dialog.h"
 
@@ -27,6 +29,8 @@ class MacroEditorDialog : public Dialog {
   /// Shows what the editor says: list, fields, buttons.
   void Refresh();
   void FillList();
+  /// Shows the state that follows an action of the editing state or "Delete".
+  void ShowViewState();
 
   void New();
   void Edit();
@@ -34,8 +38,10 @@ class MacroEditorDialog : public Dialog {
   void Save();
   void Cancel();
   void RecallVariable();
-  void SelectMacro(int index);
-  QWidget* FieldWidget(MacroEditor::Field field) const;
+  void InsertVariable(int index);
+  void SelectMacro();
+  /// The fields in the order of MacroEditor::Field.
+  std::array<QWidget*, 3> Fields() const;
 
   SettingsStore& store;
   MacroEditor editor;

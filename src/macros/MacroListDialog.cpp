@@ -25,24 +25,26 @@ MacroListDialog::MacroListDialog(SettingsStore& store, QWidget* parent)
   formula->setObjectName(QStringLiteral("Macro Expression"));
   formula->setAccessibleName(QStringLiteral("Macro Expression"));
   formula->setReadOnly(true);
+  formula->setTabChangesFocus(true);
   formula->setFixedHeight(kFormulaHeight);
   Content()->addWidget(formula);
   QHBoxLayout* const row = AddButtonRow();
   AddButton(row, L"OK", this, &MacroListDialog::Pick);
   SetDefault(AddButton(row, L"Cancel", this, &MacroListDialog::reject));
-  connect(list, &QListWidget::currentRowChanged, this, &MacroListDialog::ShowFormula);
+  connect(list, &QListWidget::itemSelectionChanged, this, &MacroListDialog::ShowFormula);
   connect(list, &QListWidget::itemDoubleClicked, this, &MacroListDialog::Pick);
-  resize(width(), kOpeningHeight);
-  list->setCurrentRow(0);
+  SetOpeningHeight(kOpeningHeight);
+  list->SelectRow(0);
   list->setFocus();
 }
 
-void MacroListDialog::ShowFormula(int index) {
+void MacroListDialog::ShowFormula() {
+  const int index = list->SelectedRow();
   formula->setPlainText(index < 0 ? QString() : FromWide(macros.ReadFormula(index)));
 }
 
 void MacroListDialog::Pick() {
-  if (list->currentRow() >= 0) emit Picked(list->currentRow());
+  if (list->SelectedRow() >= 0) emit Picked(list->SelectedRow());
   accept();
 }
 

@@ -21,7 +21,7 @@ class MacroListDialog : public Dialog {
   void Picked(int index);
 
  private:
-  void ShowFormula(int index);
+  void ShowFormula();
   void Pick();
 
   MacroTable macros;

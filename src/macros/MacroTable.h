@@ -14,6 +14,9 @@ namespace vexa {
 /// Macros that can be kept.
 inline constexpr int kMaxMacros = 60;
 
+/// What is said when a macro is to be picked and there is none.
+inline constexpr std::wstring_view kNoMacro = L"Not exist saved macro";
+
 /// What a macro call in an expression begins with; the macro's name follows.
 inline constexpr std::wstring_view kMacroCallMark = L"M:";
 

@@ -1,6 +1,7 @@
 #include "macros/MemoryVariableDialog.h"
 
 #include <QHBoxLayout>
+#include <utility>
 
 #include "display/WideText.h"
 #include "toolkit/MessageBox.h"
@@ -18,9 +19,10 @@ MemoryVariableDialog::MemoryVariableDialog(SettingsStore& store, QWidget* parent
   Build(L"Recall", &MemoryVariableDialog::RecallSelected);
 }
 
-MemoryVariableDialog::MemoryVariableDialog(SettingsStore& store, const std::wstring& text,
-                                           QWidget* parent)
-    : Dialog(QStringLiteral("MemoryVariable"), parent), variables(store), textToStore(text) {
+MemoryVariableDialog::MemoryVariableDialog(SettingsStore& store, std::wstring text, QWidget* parent)
+    : Dialog(QStringLiteral("MemoryVariable"), parent),
+      variables(store),
+      textToStore(std::move(text)) {
   Build(L"Store", &MemoryVariableDialog::StoreSelected);
 }
 
@@ -34,26 +36,27 @@ void MemoryVariableDialog::Build(std::wstring_view confirmCaption,
   SetDefault(AddButton(row, confirmCaption, this, confirm));
   AddButton(row, L"Cancel", this, &MemoryVariableDialog::reject);
   connect(list, &QListWidget::itemDoubleClicked, this, confirm);
-  resize(width(), kOpeningHeight);
+  SetOpeningHeight(kOpeningHeight);
   list->setFocus();
 }
 
 void MemoryVariableDialog::FillList() {
-  const int row = list->currentRow();
+  const int row = list->SelectedRow();
   list->clear();
   for (int i = 0; i < MemoryVariables::kCount; ++i) list->AddLine(FromWide(variables.Line(i)));
-  list->setCurrentRow(row);
+  list->SelectRow(row);
 }
 
 void MemoryVariableDialog::ClearAll() {
   AskYesNo(this, std::wstring(MemoryVariables::kClearQuestion), [this] {
     variables.ClearAll();
     FillList();
+    list->setFocus();
   });
 }
 
 int MemoryVariableDialog::SelectedOrComplain() {
-  const int index = list->currentRow();
+  const int index = list->SelectedRow();
   if (index < 0) {
     ShowErrorBox(this, std::wstring(MemoryVariables::kSelectMessage), [this] { list->setFocus(); });
   }

@@ -17,7 +17,7 @@ class MemoryVariableDialog : public Dialog {
   /// Opens for recalling: `Recalled` says which variable was picked.
   MemoryVariableDialog(SettingsStore& store, QWidget* parent);
   /// Opens for storing `text`.
-  MemoryVariableDialog(SettingsStore& store, const std::wstring& text, QWidget* parent);
+  MemoryVariableDialog(SettingsStore& store, std::wstring text, QWidget* parent);
 
  signals:
   /// Variable `index` was picked for recalling.

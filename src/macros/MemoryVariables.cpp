@@ -1,5 +1,7 @@
 #include "macros/MemoryVariables.h"
 
+#include <cmath>
+
 #include "display/SettingsLayout.h"
 #include "engine/NumberText.h"
 #include "toolkit/NumberBox.h"
@@ -13,7 +15,8 @@ std::wstring MemoryVariables::Text(int index) const {
 double MemoryVariables::Value(int index) const {
   // The unit converter stores its results as it shows them, grouped at thousands.
   const std::wstring text = Text(index);
-  return ReadNumberBox(text).value_or(TextToDouble(text));
+  const double value = ReadNumberBox(text).value_or(TextToDouble(text));
+  return std::isfinite(value) ? value : 0.0;
 }
 
 std::wstring MemoryVariables::Line(int index) const {

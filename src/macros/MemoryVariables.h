@@ -21,7 +21,7 @@ class MemoryVariables {
 
   /// The text kept in slot `index`, 0 to kCount - 1.
   std::wstring Text(int index) const;
-  /// The number in slot `index`; 0 when its text is none.
+  /// The number in slot `index`; 0 when its text is none, or none that can be calculated with.
   double Value(int index) const;
   /// Slot `index` as the list shows it: Mem01 = 2.5
   std::wstring Line(int index) const;

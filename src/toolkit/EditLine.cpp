@@ -15,7 +15,6 @@ namespace {
 /// The text grows with the line, of which it leaves at least two rows visible.
 constexpr int kRows = 3;
 constexpr int kSmallestText = 13;
-constexpr int kLargestText = 22;
 
 /// The keys that end a line in an ordinary edit box, with whatever modifiers.
 bool EndsLine(const QKeyEvent& event) {
@@ -27,7 +26,7 @@ bool EndsLine(const QKeyEvent& event) {
 /// The number of wide characters before `position` of the document's text, and back: a character
 /// outside the basic plane takes two positions of the document.
 std::size_t WidePosition(const QString& text, int position) {
-  return QStringView(text).left(position).toUcs4().size();
+  return static_cast<std::size_t>(QStringView(text).left(position).toUcs4().size());
 }
 int DocumentPosition(std::wstring_view text, std::size_t position) {
   return static_cast<int>(FromWide(text.substr(0, position)).size());
@@ -108,13 +107,13 @@ bool EditLine::canInsertFromMimeData(const QMimeData* source) const {
 void EditLine::insertFromMimeData(const QMimeData* source) {
   if (!source->hasText()) return;
   // Only what can have a place is converted, so that a paste of any size is over at once.
-  const qsizetype mostUnits = static_cast<qsizetype>(4 * kLongestLine);
+  const auto mostUnits = static_cast<qsizetype>(kLongestLine) * 4;
   ApplyChange(InsertText(State(), source->text().left(mostUnits).toStdWString()));
 }
 
 void EditLine::resizeEvent(QResizeEvent* event) {
   QPlainTextEdit::resizeEvent(event);
-  const int size = std::clamp(height() / (kRows + 1), kSmallestText, kLargestText);
+  const int size = std::clamp(height() / (kRows + 1), kSmallestText, largestText);
   QFont sized = font();
   if (sized.pixelSize() == size) return;
   sized.setPixelSize(size);

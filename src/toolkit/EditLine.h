@@ -19,6 +19,8 @@ class EditLine : public QPlainTextEdit {
   explicit EditLine(QWidget* parent, std::size_t longest = kLongestLine);
 
   std::wstring Text() const { return toPlainText().toStdWString(); }
+  /// The text's size grows with the line, up to `pixels`.
+  void SetLargestText(int pixels) { largestText = pixels; }
   /// The text with its selection.
   EditText State() const;
   /// Applies a rule's change as one step of undo, shows the caret and takes the focus.
@@ -34,10 +36,13 @@ class EditLine : public QPlainTextEdit {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  static constexpr int kLargestText = 22;
+
   /// Characters that may replace those from `start` to `end`, in units of the document.
   std::size_t RoomFor(int start, int end) const;
 
   std::size_t longestText;
+  int largestText = kLargestText;
 };
 
 }  // namespace vexa

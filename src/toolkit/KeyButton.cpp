@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "display/WideText.h"
+#include "engine/AsciiCase.h"
 #include "toolkit/FaceText.h"
 #include "toolkit/Theme.h"
 
@@ -28,9 +29,14 @@ constexpr qreal kSmallestText = 8;
 constexpr qreal kLargestText = 26;
 constexpr std::size_t kLongestSign = 2;
 
+/// "OR" is a word, "<<" and "00" are signs.
+bool IsWord(std::wstring_view caption) {
+  const wchar_t first = ToLowerAscii(caption.front());
+  return caption.size() > 1 && first >= L'a' && first <= L'z';
+}
+
 bool IsSign(const Key& key) {
-  const bool isWord = key.role == KeyRole::Operator && key.caption.front() >= L'A';
-  return key.caption.size() <= kLongestSign && !isWord &&
+  return key.caption.size() <= kLongestSign && !IsWord(key.caption) &&
          (key.role == KeyRole::Digit || key.role == KeyRole::Operator ||
           key.role == KeyRole::Equals);
 }
@@ -48,7 +54,10 @@ KeyButton::KeyButton(const Key& shownKey, QWidget* parent) : QPushButton(parent)
   setAutoRepeat(key.autoRepeat);
   setAutoDefault(false);
   setFocusPolicy(Qt::TabFocus);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  // A hidden key keeps its cell, so that no key moves when others come and go.
+  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  policy.setRetainSizeWhenHidden(true);
+  setSizePolicy(policy);
 }
 
 QSize KeyButton::sizeHint() const {

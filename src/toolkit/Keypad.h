@@ -8,38 +8,44 @@
 
 #include "toolkit/Key.h"
 
-class QGridLayout;
-
 namespace vexa {
 
 class KeyButton;
 
-/// The keys of a table in a grid of even cells. Says which key was pressed; what it does is the
-/// screen's affair.
+/// The keys of a table in a grid of even cells, which stay where they are whatever is shown. Says
+/// which key was pressed; what it does is the screen's affair.
 class Keypad : public QWidget {
   Q_OBJECT
 
  public:
   using KeyTest = std::function<bool(const Key&)>;
 
-  /// `keys` must outlive the keypad.
-  Keypad(std::span<const Key> keys, QWidget* parent);
+  /// `keyTable` must outlive the keypad.
+  Keypad(std::span<const Key> keyTable, QWidget* parent);
 
   /// Shows and enables the keys as the tests say. Keys that share a cell: at most one is shown.
   void Refresh(const KeyTest& isShown, const KeyTest& isEnabled);
   /// The button with this caption, or null.
   KeyButton* Button(std::wstring_view caption) const;
 
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
  signals:
   /// The key at `index` of the table was pressed.
   void KeyPressed(int index);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
-  void AddCell(QWidget* button, const Key& key);
+  /// The size in which every cell is `cell`.
+  QSize SizeFor(QSize cell) const;
 
   std::span<const Key> keys;
   std::vector<KeyButton*> buttons;
-  QGridLayout* grid;
+  int rows = 0;
+  int columns = 0;
 };
 
 }  // namespace vexa

@@ -5,6 +5,7 @@
 
 #include "display/WideText.h"
 #include "toolkit/LineText.h"
+#include "toolkit/Theme.h"
 
 namespace vexa {
 
@@ -22,7 +23,12 @@ QMenu* ShowPopupMenu(QWidget* owner, QPoint anchor, PopupSide side,
   menu->setAttribute(Qt::WA_DeleteOnClose);
   if (!title.empty()) {
     menu->setTitle(MenuText(title));
-    menu->addAction(MenuText(title))->setEnabled(false);
+    QAction* const heading = menu->addAction(MenuText(title));
+    heading->setEnabled(false);
+    QFont bold = menu->font();
+    bold.setBold(true);
+    heading->setFont(bold);
+    theme::KeepReadable(menu);
     menu->addSeparator();
   }
   for (const PopupCommand& command : commands) {

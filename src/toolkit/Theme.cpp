@@ -1,6 +1,6 @@
 #include "toolkit/Theme.h"
 
-#include <QWidget>
+#include <QLabel>
 #include <array>
 
 namespace vexa::theme {
@@ -50,6 +50,20 @@ const std::array<RoleColours, 10>& Table() {
 /// Half of the lightness scale, 0 to 255.
 constexpr int kMiddleLightness = 128;
 
+/// Around the text of a light blue band.
+constexpr int kBandMargin = 5;
+
+/// How much of a text's colour stays while its widget is disabled.
+constexpr qreal kDisabledText = 0.62;
+
+QColor Mixed(const QColor& text, const QColor& ground) {
+  const auto mixed = [](float a, float b) {
+    return static_cast<float>(kDisabledText * a + (1 - kDisabledText) * b);
+  };
+  return QColor::fromRgbF(mixed(text.redF(), ground.redF()), mixed(text.greenF(), ground.greenF()),
+                          mixed(text.blueF(), ground.blueF()));
+}
+
 }  // namespace
 
 bool IsDark(const QPalette& palette) {
@@ -64,12 +78,24 @@ const KeyColours& ColoursOf(KeyRole role, const QPalette& palette) {
   return IsDark(palette) ? found->dark : found->light;
 }
 
-void ShowOnLightBlue(QWidget* label) {
+void ShowOnLightBlue(QLabel* label) {
   QPalette colours = label->palette();
   colours.setColor(QPalette::Window, QColor(222, 231, 255));
   colours.setColor(QPalette::WindowText, Qt::black);
   label->setPalette(colours);
   label->setAutoFillBackground(true);
+  label->setMargin(kBandMargin);
+}
+
+void KeepReadable(QWidget* widget) {
+  QPalette colours = widget->palette();
+  for (const QPalette::ColorRole role :
+       {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+    colours.setColor(QPalette::Disabled, role,
+                     Mixed(colours.color(QPalette::Active, role),
+                           colours.color(QPalette::Active, QPalette::Window)));
+  }
+  widget->setPalette(colours);
 }
 
 void ShowOnAmber(QWidget* field) {

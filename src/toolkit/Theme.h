@@ -6,6 +6,7 @@
 
 #include "toolkit/Key.h"
 
+class QLabel;
 class QWidget;
 
 namespace vexa::theme {
@@ -25,8 +26,13 @@ bool IsDark(const QPalette& palette);
 /// has a contrast of at least 4.5 to 1.
 const KeyColours& ColoursOf(KeyRole role, const QPalette& palette);
 
-/// Draws `label` on the light blue that dialogs have behind their texts, in light and dark alike.
-void ShowOnLightBlue(QWidget* label);
+/// Draws `label` as a band in the light blue that dialogs have behind their texts, in light and
+/// dark alike.
+void ShowOnLightBlue(QLabel* label);
+
+/// Makes what `widget` shows while it is disabled as readable as text: for fields that show
+/// something before it can be changed.
+void KeepReadable(QWidget* widget);
 
 /// Draws a field's text black on the amber of results, in light and dark alike.
 void ShowOnAmber(QWidget* field);

@@ -4,7 +4,8 @@
 
 namespace vexa {
 
-/// A list of texts whose rows are high enough for a finger.
+/// A list of texts whose rows are high enough for a finger, of which one or none is selected. What
+/// counts is the visible selection, which the focus alone does not make.
 class TouchList : public QListWidget {
   Q_OBJECT
 
@@ -13,6 +14,13 @@ class TouchList : public QListWidget {
 
   /// Appends a row.
   void AddLine(const QString& text);
+  /// The selected row, -1: none.
+  int SelectedRow() const;
+  /// Selects `row` and scrolls to it; -1: none.
+  void SelectRow(int row);
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
 };
 
 }  // namespace vexa

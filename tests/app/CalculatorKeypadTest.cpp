@@ -20,11 +20,11 @@ constexpr BaseType kBases[] = {Dec, Hex, Bin, Oct};
 constexpr int kRows = 8;
 constexpr int kColumns = 6;
 
-CalculatorKeypadState State(BaseType base, bool shifted) {
+KeypadState State(BaseType base, bool shifted) {
   return {AngleType::Degrees, false, base, shifted};
 }
 
-Captions Shown(const CalculatorKeypadState& state) {
+Captions Shown(const KeypadState& state) {
   Captions captions;
   for (const Key& key : CalculatorKeys()) {
     if (IsKeyShown(key, state)) captions.insert(key.caption);
@@ -32,7 +32,7 @@ Captions Shown(const CalculatorKeypadState& state) {
   return captions;
 }
 
-Captions Disabled(const CalculatorKeypadState& state) {
+Captions Disabled(const KeypadState& state) {
   Captions captions;
   for (const Key& key : CalculatorKeys()) {
     if (IsKeyShown(key, state) && !IsKeyEnabled(key, state)) captions.insert(key.caption);
@@ -145,7 +145,7 @@ TEST(CalculatorKeypad, CaptionsAreUniqueBesidesTheShiftPair) {
 
 TEST(CalculatorKeypad, AngleKeysShareAPlace) {
   for (const AngleType angle : {AngleType::Degrees, AngleType::Radians, static_cast<AngleType>(7)}) {
-    const CalculatorKeypadState state{angle, false, Dec, false};
+    const KeypadState state{angle, false, Dec, false};
     const bool degrees = angle == AngleType::Degrees;
     EXPECT_EQ(Shown(state).contains(L"DEG"), degrees);
     EXPECT_EQ(Shown(state).contains(L"RAD"), !degrees);
@@ -153,7 +153,7 @@ TEST(CalculatorKeypad, AngleKeysShareAPlace) {
 }
 
 TEST(CalculatorKeypad, OnlyPbDependsOnTheHistory) {
-  const CalculatorKeypadState state{AngleType::Degrees, true, Dec, false};
+  const KeypadState state{AngleType::Degrees, true, Dec, false};
   EXPECT_EQ(Disabled(state), Captions{L"PB"});
 }
 

@@ -1,6 +1,7 @@
 #include "app/SingleInstance.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -24,6 +25,7 @@ class SingleInstanceTest : public QObject {
   void AnythingInPlaceOfThePipeIsReplaced();
   void WhatCannotBeReplacedDoesNotBlock();
   void AFolderThatOthersMayWriteIsAvoided();
+  void AFolderOfAnotherUserIsAvoided();
   void WithoutARuntimeFolderTheSettingsFolderServes();
   void WithoutAnyFolderTheProgramRuns();
 
@@ -161,6 +163,16 @@ void SingleInstanceTest::AFolderThatOthersMayWriteIsAvoided() {
   QVERIFY(IsPipe(ConfigPipe()));
   SingleInstance second;
   QVERIFY(!second.Claim());
+}
+
+void SingleInstanceTest::AFolderOfAnotherUserIsAvoided() {
+  if (geteuid() != 0) QSKIP("only root can give a folder away");
+  constexpr uid_t kSomebody = 12345;
+  QCOMPARE(chown(qgetenv("XDG_RUNTIME_DIR").constData(), kSomebody, kSomebody), 0);
+  SingleInstance first;
+  QVERIFY(first.Claim());
+  QVERIFY(!QFile::exists(RuntimePipe()));
+  QVERIFY(IsPipe(ConfigPipe()));
 }
 
 void SingleInstanceTest::WithoutARuntimeFolderTheSettingsFolderServes() {

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "plotter/PixelPoint.h"
+
+namespace vexa {
+
+struct Colour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+
+  bool operator==(const Colour&) const = default;
+};
+
+/// What a graph is drawn on. Places are pixels of the graph view, whatever the resolution.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  virtual void Fill(const PixelBox& box, Colour colour) = 0;
+  /// A line one pixel wide; it draws its first pixel and not its last.
+  virtual void Line(PixelPoint from, PixelPoint to, Colour colour) = 0;
+  virtual void Pixel(PixelPoint point, Colour colour) = 0;
+  /// A filled circle that touches the sides of `box`.
+  virtual void Circle(const PixelBox& box, Colour colour) = 0;
+  /// `text` in the view's font, right of and below `corner`.
+  virtual void Text(PixelPoint corner, std::wstring_view text, Colour colour) = 0;
+};
+
+}  // namespace vexa

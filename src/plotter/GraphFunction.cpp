@@ -1,0 +1,37 @@
+#include "plotter/GraphFunction.h"
+
+#include <array>
+
+#include "display/ShortenedText.h"
+#include "engine/ExprParser.h"
+
+namespace vexa {
+namespace {
+
+/// The second label's small "x" is meant.
+constexpr std::array<std::wstring_view, kMaxGraphFunctions> kLabels{L"R:F1(X)=", L"G:F2(x)=",
+                                                                    L"B:F3(X)="};
+
+constexpr ShorteningRule kRefusedText{.longest = 7, .kept = 5};
+
+}  // namespace
+
+std::wstring GraphLabel(std::size_t position, std::wstring_view text) {
+  return std::wstring(kLabels[position]) + std::wstring(text);
+}
+
+std::wstring FunctionRefusal(std::wstring_view text, std::wstring_view engineSentence) {
+  return Shortened(text, kRefusedText) + L" : " + std::wstring(engineSentence);
+}
+
+std::wstring ParseGraphFunction(std::size_t position, std::wstring_view text,
+                                GraphFunction& function) {
+  ExprParser parser;
+  parser.Validate(text);
+  if (!parser.errorText.empty()) return parser.errorText;
+  function.label = GraphLabel(position, text);
+  function.tokens.assign(parser.tokens.begin(), parser.tokens.begin() + parser.tokenCount);
+  return {};
+}
+
+}  // namespace vexa

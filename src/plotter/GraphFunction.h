@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "plotter/GraphData.h"
+
+namespace vexa {
+
+/// What a list of functions calls the function with this text at `position`, 0 to 2.
+std::wstring GraphLabel(std::size_t position, std::wstring_view text);
+
+/// The sentence that refuses a graph because of the function with this text: the text, shortened,
+/// and the engine's own sentence.
+std::wstring FunctionRefusal(std::wstring_view text, std::wstring_view engineSentence);
+
+/// Makes the function with this text for `position` of a graph. Returns the engine's sentence when
+/// the text is no formula of X; empty: success.
+std::wstring ParseGraphFunction(std::size_t position, std::wstring_view text,
+                                GraphFunction& function);
+
+}  // namespace vexa

@@ -1,0 +1,59 @@
+#include "plotter/GraphMapping.h"
+
+#include <cmath>
+
+#include "plotter/PlotArea.h"
+
+namespace vexa::graph_mapping {
+namespace {
+
+using namespace plot_area;
+
+/// A position as a pixel when it lies from `low` to `high`. Compared before it becomes an integer:
+/// it may be infinite or not a number.
+std::optional<int> PixelWithin(double position, int low, int high) {
+  if (!(position >= low && position <= high)) return std::nullopt;
+  return static_cast<int>(position);
+}
+
+}  // namespace
+
+double RowOf(double y, const PlotRanges& ranges) {
+  return std::trunc(kBottom - (kHeight / (ranges.yMax - ranges.yMin)) * (y - ranges.yMin));
+}
+
+std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ranges) {
+  const double position =
+      std::trunc((kWidth / (ranges.xMax - ranges.xMin)) * (point.x - ranges.xMin) + kLeft);
+  const std::optional<int> column = PixelWithin(position, kLeft, kRight);
+  if (!column) return std::nullopt;
+  const std::optional<int> row = PixelWithin(RowOf(point.y, ranges), kTop, kBottom);
+  if (!row) return std::nullopt;
+  return PixelPoint{*column, *row};
+}
+
+int AxisRow(const PlotRanges& ranges) {
+  if (!(ranges.yMax > 0.0 && ranges.yMin < 0.0)) return 0;
+  return PixelWithin(RowOf(0.0, ranges), kTop, kBottom).value_or(0);
+}
+
+int AxisColumn(const PlotRanges& ranges) {
+  if (!(ranges.xMax > 0.0 && ranges.xMin < 0.0)) return 0;
+  const double column =
+      kLeft + std::trunc((-ranges.xMin / (ranges.xMax - ranges.xMin)) * (kWidth - 1));
+  return PixelWithin(column, kLeft, kRight).value_or(0);
+}
+
+bool IsInside(PixelPoint point) {
+  return point.x >= kLeft && point.x <= kRight && point.y >= kTop - 1 && point.y <= kBottom + 1;
+}
+
+double XAt(int column, const PlotRanges& ranges) {
+  return ((ranges.xMax - ranges.xMin) / kWidth) * (column - kLeft) + ranges.xMin;
+}
+
+double YAt(int row, const PlotRanges& ranges) {
+  return ((ranges.yMax - ranges.yMin) / (kHeight + 1)) * (kBottom - row + 1) + ranges.yMin;
+}
+
+}  // namespace vexa::graph_mapping

@@ -1,0 +1,214 @@
+#include "plotter/GraphModel.h"
+
+#include <utility>
+
+#include "display/FormatResult.h"
+#include "engine/CalcEngine.h"
+#include "plotter/GraphMapping.h"
+#include "plotter/XFormula.h"
+#include "toolkit/NumberBox.h"
+
+namespace vexa {
+namespace {
+
+constexpr double kMoveShare = 0.2;
+
+constexpr std::wstring_view kFunctionLetters = L"RGB";
+constexpr std::wstring_view kNoValue = L"Out of range";
+
+/// A bound moved by `moves` steps. A bound that does not move stays as it is: a step may be
+/// infinite.
+double Moved(double bound, int moves, double step) {
+  return moves == 0 ? bound : bound + moves * step;
+}
+
+/// Of an infinite range, too: a bound that is no number equals nothing.
+std::wstring_view EmptyRange(const PlotRanges& ranges) {
+  if (ranges.xMin == ranges.xMax) return kEmptyXRange;
+  if (ranges.yMin == ranges.yMax) return kEmptyYRange;
+  return {};
+}
+
+}  // namespace
+
+GraphModel::GraphModel(GraphData graph, DisplayType type, int decimals)
+    : data(std::move(graph)),
+      ranges(data.ranges),
+      previous(data.ranges),
+      options(data.options),
+      displayType(type),
+      precision(decimals) {
+  if (data.functions.size() > kMaxGraphFunctions) data.functions.resize(kMaxGraphFunctions);
+  if (options.coordinates) labels = LabelsOf(ranges);
+  Sample();
+  Cal();
+}
+
+std::wstring GraphModel::ZoomIn() {
+  return Change({1, -1, 1, -1});
+}
+std::wstring GraphModel::ZoomOut() {
+  return Change({-1, 1, -1, 1});
+}
+std::wstring GraphModel::MoveLeft() {
+  return Change({-1, -1, 0, 0});
+}
+std::wstring GraphModel::MoveRight() {
+  return Change({1, 1, 0, 0});
+}
+std::wstring GraphModel::MoveUp() {
+  return Change({0, 0, 1, 1});
+}
+std::wstring GraphModel::MoveDown() {
+  return Change({0, 0, -1, -1});
+}
+
+void GraphModel::BeginCommand() {
+  RemoveRubberBand();
+  lastError.clear();
+}
+
+std::wstring GraphModel::Change(const BoundMoves& moves) {
+  BeginCommand();
+  const double xStep = (ranges.xMax - ranges.xMin) * kMoveShare;
+  const double yStep = (ranges.yMax - ranges.yMin) * kMoveShare;
+  return ChangeTo({Moved(ranges.xMin, moves.xMin, xStep), Moved(ranges.xMax, moves.xMax, xStep),
+                   Moved(ranges.yMin, moves.yMin, yStep), Moved(ranges.yMax, moves.yMax, yStep)});
+}
+
+std::wstring GraphModel::ChangeTo(const PlotRanges& wanted) {
+  if (const std::wstring_view refusal = EmptyRange(wanted); !refusal.empty()) {
+    return std::wstring(refusal);
+  }
+  const PlotRanges before = ranges;
+  std::wstring sentence = Show(wanted);
+  if (!sentence.empty()) return sentence;
+  previous = before;
+  atHome = false;
+  return {};
+}
+
+std::wstring GraphModel::Show(const PlotRanges& wanted) {
+  if (options.coordinates) {
+    std::vector<std::wstring> texts = LabelsOf(wanted);
+    if (!lastError.empty()) return lastError;
+    labels = std::move(texts);
+  }
+  ranges = wanted;
+  Sample();
+  return {};
+}
+
+std::wstring GraphModel::Reset() {
+  BeginCommand();
+  if (atHome) return {};
+  std::wstring sentence = Show(data.ranges);
+  atHome = sentence.empty();
+  return sentence;
+}
+
+std::wstring GraphModel::Undo() {
+  BeginCommand();
+  return atHome ? std::wstring() : Show(previous);
+}
+
+void GraphModel::ApplyOptions(const PlotRanges& wanted, const PlotOptions& chosen) {
+  BeginCommand();
+  atHome = false;
+  previous = ranges;
+  ranges = wanted;
+  options = chosen;
+  labels = options.coordinates ? LabelsOf(ranges) : std::vector<std::wstring>();
+  Sample();
+}
+
+void GraphModel::Sample() {
+  samples = SampleGraph(data, ranges);
+  lastError.clear();
+}
+
+std::vector<std::wstring> GraphModel::LabelsOf(const PlotRanges& shown) {
+  return {L"x min=" + Format(shown.xMin), L"x max=" + Format(shown.xMax),
+          L"y min=" + Format(shown.yMin), L"y max=" + Format(shown.yMax)};
+}
+
+std::wstring GraphModel::Format(double value) {
+  return FormatResult(value, displayType, precision, BaseType::Dec, lastError);
+}
+
+std::wstring GraphModel::PenDown(PixelPoint point) {
+  BeginCommand();
+  drag.Begin(point);
+  if (!graph_mapping::IsInside(point)) return {};
+  xBox = Format(graph_mapping::XAt(point.x, ranges));
+  if (trace) return Cal();
+  readOuts = {{L"y = ", graph_mapping::YAt(point.y, ranges)}};
+  selectedReadOut = 0;
+  return {};
+}
+
+void GraphModel::PenMove(PixelPoint point) {
+  drag.MoveTo(point);
+}
+
+std::wstring GraphModel::PenUp(PixelPoint point) {
+  drag.MoveTo(point);
+  BeginCommand();
+  if (!drag.IsBox() || !graph_mapping::IsInside(point)) return {};
+  const auto [xMin, xMax] = std::minmax(
+      {graph_mapping::XAt(drag.Start().x, ranges), graph_mapping::XAt(point.x, ranges)});
+  const auto [yMin, yMax] = std::minmax(
+      {graph_mapping::YAt(drag.Start().y, ranges), graph_mapping::YAt(point.y, ranges)});
+  return ChangeTo({xMin, xMax, yMin, yMax});
+}
+
+std::wstring GraphModel::Cal() {
+  BeginCommand();
+  if (xBox == L"-0") xBox = L"0";
+  const std::optional<double> x = ReadNumberBox(xBox);
+  if (!x) return std::wstring(kEnterNumber);
+  readOuts.clear();
+  for (std::size_t i = 0; i < data.functions.size(); ++i) {
+    CalcEngine engine;
+    engine.angleMode = data.angleType;
+    XFormula(data.functions[i].tokens).Evaluate(*x, engine);
+    ReadOut& readOut = readOuts.emplace_back();
+    readOut.name = kFunctionLetters[i] + (L":F" + std::to_wstring(i + 1) + L"(X) = ");
+    if (engine.errorText.empty()) readOut.value = engine.result;
+  }
+  selectedReadOut = selectedFunction;
+  return {};
+}
+
+void GraphModel::ToggleTrace() {
+  BeginCommand();
+  trace = !trace;
+}
+
+void GraphModel::SelectFunction(int index) {
+  selectedFunction = index;
+  if (trace && index < static_cast<int>(readOuts.size())) selectedReadOut = index;
+}
+
+void GraphModel::SelectReadOut(int index) {
+  selectedReadOut = index;
+  if (trace && index < static_cast<int>(data.functions.size())) selectedFunction = index;
+}
+
+std::wstring GraphModel::ReadOutLine(std::size_t index) const {
+  const ReadOut& readOut = readOuts[index];
+  if (!readOut.value) return readOut.name + std::wstring(kNoValue);
+  // A value beyond what can be written reads as the formatter's own sentence.
+  std::wstring overflow;
+  return readOut.name +
+         FormatResult(*readOut.value, displayType, precision, BaseType::Dec, overflow);
+}
+
+void GraphModel::SetDisplay(DisplayType type, int decimals) {
+  BeginCommand();
+  displayType = type;
+  precision = decimals;
+  if (options.coordinates) labels = LabelsOf(ranges);
+}
+
+}  // namespace vexa

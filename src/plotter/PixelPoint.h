@@ -1,0 +1,21 @@
+#pragma once
+
+namespace vexa {
+
+/// A pixel of the graph view.
+struct PixelPoint {
+  int x = 0;
+  int y = 0;
+
+  bool operator==(const PixelPoint&) const = default;
+};
+
+/// The pixels from column `left` to `right` - 1 and from row `top` to `bottom` - 1.
+struct PixelBox {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+};
+
+}  // namespace vexa

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "plotter/GraphData.h"
+#include "plotter/PixelPoint.h"
+#include "plotter/PlotArea.h"
+
+namespace vexa {
+
+/// Samples of a function: one for each column of the plot area.
+inline constexpr std::size_t kSampleCount = plot_area::kWidth;
+
+/// A function's sampled points as pixels; a point whose y is 0 is empty.
+using SampledCurve = std::array<PixelPoint, kSampleCount>;
+
+constexpr bool IsEmpty(PixelPoint point) {
+  return point.y == 0;
+}
+
+/// A graph's pixels, ready for being drawn.
+struct SampledGraph {
+  /// One for each function.
+  std::vector<SampledCurve> curves;
+  /// The axes; 0: not inside the ranges.
+  int axisRow = 0;
+  int axisColumn = 0;
+  /// Where data points are drawn, each pixel once.
+  std::vector<PixelPoint> dataPixels;
+};
+
+/// The value of X at sample `index` of the range from `xMin` to `xMax`.
+double SampleX(std::size_t index, double xMin, double xMax);
+
+/// Samples what `data` shows, over `ranges` instead of the home ranges. A sample that cannot be
+/// evaluated is empty. A curve that leaves the plot area, or enters it, has a point on the edge
+/// there.
+SampledGraph SampleGraph(const GraphData& data, const PlotRanges& ranges);
+
+}  // namespace vexa

@@ -1,0 +1,113 @@
+#include "toolkit/ExpressionScreen.h"
+
+#include <QDialog>
+#include <QMenu>
+#include <utility>
+#include <vector>
+
+#include "display/TextHistory.h"
+#include "toolkit/EditLine.h"
+#include "toolkit/Keypad.h"
+#include "toolkit/PopupMenu.h"
+#include "toolkit/ResultLine.h"
+
+namespace vexa {
+
+const ExpressionScreen::EditingKey ExpressionScreen::kEditingKeys[] = {
+    {L"BS", &ExpressionScreen::Backspace},
+    {L"DEL", &ExpressionScreen::Delete},
+    {L"CLR", &ExpressionScreen::Clear},
+    {L"Shift", &ExpressionScreen::ToggleShift},
+};
+
+ExpressionScreen::ExpressionScreen(Mode mode, std::span<const Key> keyTable, QWidget* parent)
+    : ModeScreen(mode, parent),
+      keys(keyTable),
+      line(new EditLine(this)),
+      keypad(new Keypad(keyTable, this)) {
+  setFocusProxy(line);
+  connect(keypad, &Keypad::KeyPressed, this, &ExpressionScreen::PressKey);
+}
+
+void ExpressionScreen::PressKey(int index) {
+  const Key& key = keys[static_cast<std::size_t>(index)];
+  if (!key.inserts.IsEmpty()) {
+    line->ApplyChange(TypeKey(line->State(), key.inserts));
+    return;
+  }
+  for (const EditingKey& editing : kEditingKeys) {
+    if (editing.caption == key.caption) return (this->*editing.run)();
+  }
+  RunKey(key.caption);
+}
+
+void ExpressionScreen::Backspace() {
+  line->ApplyChange(DeleteBefore(line->State()));
+}
+
+void ExpressionScreen::Delete() {
+  line->ApplyChange(DeleteAfter(line->State()));
+}
+
+void ExpressionScreen::Clear() {
+  line->ApplyChange(DeleteAll(line->State()));
+}
+
+void ExpressionScreen::ToggleShift() {
+  shifted = !shifted;
+  RefreshKeypad();
+  line->setFocus();
+}
+
+void ExpressionScreen::RefreshKeypad() {
+  const KeypadState state = State();
+  keypad->Refresh([&](const Key& key) { return IsKeyShown(key, state); },
+                  [&](const Key& key) { return IsKeyEnabled(key, state); });
+}
+
+void ExpressionScreen::BuildEditMenu(ResultLine* result) {
+  struct EditCommand {
+    const char* text;
+    QKeySequence::StandardKey shortcut;
+    void (QPlainTextEdit::*run)();
+  };
+  constexpr EditCommand kEditCommands[] = {
+      {"Cu&t", QKeySequence::Cut, &QPlainTextEdit::cut},
+      {"&Copy", QKeySequence::Copy, &QPlainTextEdit::copy},
+      {"&Paste", QKeySequence::Paste, &QPlainTextEdit::paste},
+  };
+  QMenu* const menu = AddMenu(QStringLiteral("&Edit"));
+  for (const EditCommand& command : kEditCommands) {
+    QAction* const action = menu->addAction(QString::fromLatin1(command.text), this, [=, this] {
+      // The result has its own selection; the focus tells which one is meant.
+      const bool copiesResult =
+          result && result->hasFocus() && command.shortcut == QKeySequence::Copy;
+      if (copiesResult) return result->copy();
+      (line->*command.run)();
+      line->setFocus();
+    });
+    action->setShortcuts(command.shortcut);
+  }
+}
+
+void ExpressionScreen::ShowHistory(const TextHistory& history, std::function<void(int)> chosen) {
+  line->setFocus();
+  std::vector<PopupCommand> entries;
+  for (int index = history.Count(); index >= 1; --index) {
+    entries.push_back({index, history.Caption(index)});
+  }
+  if (entries.empty()) return;
+  ShowPopupMenu(keypad, keypad->rect().topRight(), PopupSide::Left, entries, std::move(chosen))
+      ->setObjectName(QStringLiteral("History"));
+}
+
+void ExpressionScreen::OpenDialog(QDialog* dialog) {
+  connect(dialog, &QDialog::finished, line, qOverload<>(&QWidget::setFocus));
+  dialog->open();
+}
+
+void ExpressionScreen::InsertIntoLine(const std::wstring& text) {
+  line->ApplyChange(InsertText(line->State(), text));
+}
+
+}  // namespace vexa

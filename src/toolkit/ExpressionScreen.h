@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "toolkit/KeypadState.h"
+#include "toolkit/ModeScreen.h"
+
+class QDialog;
+
+namespace vexa {
+
+class EditLine;
+class Keypad;
+class ResultLine;
+class TextHistory;
+
+/// What the screens with an edit line and a keypad share: keys that insert texts, the editing keys,
+/// the layers, the "Edit" menu, and giving the line its focus back.
+class ExpressionScreen : public ModeScreen {
+  Q_OBJECT
+
+ protected:
+  /// `keys` must outlive the screen. The line and the keypad are still to be placed.
+  ExpressionScreen(Mode mode, std::span<const Key> keys, QWidget* parent);
+
+  /// The rule state that decides which keys are shown and enabled.
+  virtual KeypadState State() const = 0;
+  /// Runs the command of the key with this caption, which inserts nothing.
+  virtual void RunKey(std::wstring_view caption) = 0;
+
+  /// Adds the "Edit" menu, whose commands work on the line. While `result` has the focus, Copy
+  /// takes what is selected there.
+  void BuildEditMenu(ResultLine* result = nullptr);
+  /// Shows and enables the keys as State() says.
+  void RefreshKeypad();
+  /// Offers the entries of `history`, the newest first; `chosen` gets the number of the chosen one.
+  void ShowHistory(const TextHistory& history, std::function<void(int)> chosen);
+  /// Gives the line the focus again when `dialog` is closed, and opens it.
+  void OpenDialog(QDialog* dialog);
+  void InsertIntoLine(const std::wstring& text);
+
+  EditLine* Line() const { return line; }
+  Keypad* Keys() const { return keypad; }
+  bool IsShifted() const { return shifted; }
+
+ private:
+  struct EditingKey {
+    std::wstring_view caption;
+    void (ExpressionScreen::*run)();
+  };
+  static const EditingKey kEditingKeys[];
+
+  void PressKey(int index);
+  void Backspace();
+  void Delete();
+  void Clear();
+  void ToggleShift();
+
+  std::span<const Key> keys;
+  EditLine* line;
+  Keypad* keypad;
+  bool shifted = false;
+};
+
+}  // namespace vexa

@@ -1,0 +1,37 @@
+#include "toolkit/TouchStyle.h"
+
+#include <QStyleOptionMenuItem>
+#include <algorithm>
+
+#include "toolkit/TouchSize.h"
+
+namespace vexa {
+namespace {
+
+constexpr QStyle::ContentsType kTouched[] = {
+    QStyle::CT_MenuBarItem, QStyle::CT_MenuItem, QStyle::CT_PushButton, QStyle::CT_RadioButton,
+    QStyle::CT_CheckBox,    QStyle::CT_ComboBox, QStyle::CT_LineEdit,   QStyle::CT_ItemViewItem,
+};
+
+/// A line between the entries of a menu is nothing to hit.
+bool IsSeparator(const QStyleOption* option) {
+  const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  return item && item->menuItemType == QStyleOptionMenuItem::Separator;
+}
+
+}  // namespace
+
+QSize TouchStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                   const QSize& contentsSize, const QWidget* widget) const {
+  const QSize size = QProxyStyle::sizeFromContents(type, option, contentsSize, widget);
+  if (std::ranges::find(kTouched, type) == std::end(kTouched) || IsSeparator(option)) return size;
+  return size.expandedTo(QSize(0, kTouchHeight));
+}
+
+QRect TouchStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                 const QWidget* widget) const {
+  if (element == SE_RadioButtonClickRect || element == SE_CheckBoxClickRect) return option->rect;
+  return QProxyStyle::subElementRect(element, option, widget);
+}
+
+}  // namespace vexa
