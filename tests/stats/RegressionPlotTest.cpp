@@ -15,7 +15,7 @@ using test::Rows;
 struct Prepared {
   std::wstring message;
   std::wstring lastError;
-  RegressionPlot plot;
+  GraphData graph;
 };
 
 Prepared Prepare(const Rows& rows, RegressionModel model = RegressionModel::Linear) {
@@ -24,7 +24,7 @@ Prepared Prepare(const Rows& rows, RegressionModel model = RegressionModel::Line
   regression.ChooseModel(model);
   Prepared prepared;
   prepared.lastError = L"of an earlier number";
-  prepared.message = PrepareRegressionPlot(list, regression, 5, prepared.lastError, prepared.plot);
+  prepared.message = PrepareRegressionPlot(list, regression, 5, prepared.lastError, prepared.graph);
   return prepared;
 }
 
@@ -32,22 +32,23 @@ TEST(RegressionPlot, LabelTokensRangesAndFlags) {
   const Prepared prepared = Prepare({{"1", "2", "1"}, {"3", "6", "1"}});
   EXPECT_EQ(prepared.message, L"");
   EXPECT_EQ(prepared.lastError, L"");
-  const RegressionPlot& plot = prepared.plot;
-  EXPECT_EQ(plot.label, L"R:F1(X)=2*X+0");
-  ASSERT_EQ(plot.tokenCount, 5);
-  EXPECT_EQ(plot.tokens[0].value, 2.0);
-  EXPECT_EQ(plot.tokens[2].op, 'x');
-  EXPECT_DOUBLE_EQ(plot.xMin, 0.4);
-  EXPECT_DOUBLE_EQ(plot.xMax, 3.6);
-  EXPECT_DOUBLE_EQ(plot.yMin, 0.8);
-  EXPECT_DOUBLE_EQ(plot.yMax, 7.2);
-  EXPECT_EQ(plot.angleMode, AngleType::Degrees);
-  EXPECT_FALSE(plot.grid);
-  EXPECT_TRUE(plot.line);
-  EXPECT_FALSE(plot.coordinates);
-  ASSERT_EQ(plot.points.size(), 2u);
-  EXPECT_EQ(plot.points[1].x, 3.0);
-  EXPECT_EQ(plot.points[1].y, 6.0);
+  const GraphData& graph = prepared.graph;
+  ASSERT_EQ(graph.functions.size(), 1u);
+  EXPECT_EQ(graph.functions[0].label, L"R:F1(X)=2*X+0");
+  ASSERT_EQ(graph.functions[0].tokens.size(), 5u);
+  EXPECT_EQ(graph.functions[0].tokens[0].value, 2.0);
+  EXPECT_EQ(graph.functions[0].tokens[2].op, 'x');
+  EXPECT_DOUBLE_EQ(graph.ranges.xMin, 0.4);
+  EXPECT_DOUBLE_EQ(graph.ranges.xMax, 3.6);
+  EXPECT_DOUBLE_EQ(graph.ranges.yMin, 0.8);
+  EXPECT_DOUBLE_EQ(graph.ranges.yMax, 7.2);
+  EXPECT_EQ(graph.angleType, AngleType::Degrees);
+  EXPECT_FALSE(graph.options.grid);
+  EXPECT_TRUE(graph.options.line);
+  EXPECT_FALSE(graph.options.coordinates);
+  ASSERT_EQ(graph.dataPoints.size(), 2u);
+  EXPECT_EQ(graph.dataPoints[1].x, 3.0);
+  EXPECT_EQ(graph.dataPoints[1].y, 6.0);
 }
 
 TEST(RegressionPlot, CurveTexts) {
@@ -82,9 +83,9 @@ TEST(RegressionPlot, EveryModelWithSignsOfAllKindsCanBeDrawn) {
 
 TEST(RegressionPlot, RowsOfCountZeroAreDrawnAndWidenTheRanges) {
   const Prepared prepared = Prepare({{"1", "2", "1"}, {"3", "6", "1"}, {"5", "-4", "0"}});
-  EXPECT_EQ(prepared.plot.points.size(), 3u);
-  EXPECT_DOUBLE_EQ(prepared.plot.xMax, 5 + 4 * 0.3);
-  EXPECT_DOUBLE_EQ(prepared.plot.yMin, -4 - 10 * 0.3);
+  EXPECT_EQ(prepared.graph.dataPoints.size(), 3u);
+  EXPECT_DOUBLE_EQ(prepared.graph.ranges.xMax, 5 + 4 * 0.3);
+  EXPECT_DOUBLE_EQ(prepared.graph.ranges.yMin, -4 - 10 * 0.3);
 }
 
 TEST(RegressionPlot, RefusesAnEmptyRange) {
@@ -99,8 +100,8 @@ TEST(RegressionPlot, RefusesAnEmptyRange) {
   const DataList empty(kTwoVarColumns);
   Regression regression(empty);
   std::wstring lastError;
-  RegressionPlot plot;
-  EXPECT_EQ(PrepareRegressionPlot(empty, regression, 5, lastError, plot), emptyX);
+  GraphData graph;
+  EXPECT_EQ(PrepareRegressionPlot(empty, regression, 5, lastError, graph), emptyX);
 }
 
 TEST(RegressionPlot, RefusesCoefficientsThatCannotBeShown) {
@@ -115,11 +116,6 @@ TEST(RegressionPlot, ReportsAnErrorOfTheEngineWithTheCurve) {
       Prepare({{"1", "2", "1"}, {"3", "6", "1"}}, static_cast<RegressionModel>(7));
   EXPECT_EQ(prepared.lastError, L"Expression is null.");
   EXPECT_EQ(prepared.message, L" : Expression is null.");
-}
-
-TEST(RegressionPlot, CurvesInMessagesAreCut) {
-  EXPECT_EQ(ShortCurve(L"2*X+-10"), L"2*X+-10");
-  EXPECT_EQ(ShortCurve(L"2*X+-100"), L"2*X+-...");
 }
 
 }  // namespace

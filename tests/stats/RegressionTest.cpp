@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "display/FormatResult.h"
 #include "stats/Lists.h"
 #include "stats/NormalEquations.h"
 
@@ -16,6 +17,12 @@ namespace {
 using test::ListOf;
 
 constexpr double kE = std::numbers::e;
+
+/// A number as cells show it.
+std::wstring Text(double value) {
+  std::wstring lastError;
+  return FormatResult(value, DisplayType::FloatingPoint, 12, BaseType::Dec, lastError);
+}
 
 TEST(RegressionModels, NamesAndCodes) {
   const struct {
@@ -87,7 +94,7 @@ TEST(Regression, ExactCurvesAreFound) {
   DataList exponential(kTwoVarColumns);
   for (const double x : {0.5, 1.0, 2.0, 3.0, 7.0}) {
     const auto add = [x](DataList& list, double y) {
-      list.Add(std::vector<std::wstring>{std::to_wstring(x), std::to_wstring(y)}, 1);
+      list.Add(std::vector<std::wstring>{Text(x), Text(y)}, 1);
     };
     add(power, 1.5 * std::pow(x, 2.0));
     add(logarithmic, 2.0 * std::log(x) - 1.0);
@@ -98,13 +105,12 @@ TEST(Regression, ExactCurvesAreFound) {
     regression.ChooseModel(model);
     return regression.Fitted();
   };
-  // The values are written with six decimals.
-  EXPECT_NEAR(fit(power, RegressionModel::Power).a, 1.5, 1e-5);
-  EXPECT_NEAR(fit(power, RegressionModel::Power).b, 2.0, 1e-5);
-  EXPECT_NEAR(fit(logarithmic, RegressionModel::Logarithmic).a, 2.0, 1e-5);
-  EXPECT_NEAR(fit(logarithmic, RegressionModel::Logarithmic).b, -1.0, 1e-5);
-  EXPECT_NEAR(fit(exponential, RegressionModel::Exponential).a, 0.5, 1e-5);
-  EXPECT_NEAR(fit(exponential, RegressionModel::Exponential).b, 0.25, 1e-5);
+  EXPECT_NEAR(fit(power, RegressionModel::Power).a, 1.5, 1e-9);
+  EXPECT_NEAR(fit(power, RegressionModel::Power).b, 2.0, 1e-9);
+  EXPECT_NEAR(fit(logarithmic, RegressionModel::Logarithmic).a, 2.0, 1e-9);
+  EXPECT_NEAR(fit(logarithmic, RegressionModel::Logarithmic).b, -1.0, 1e-9);
+  EXPECT_NEAR(fit(exponential, RegressionModel::Exponential).a, 0.5, 1e-9);
+  EXPECT_NEAR(fit(exponential, RegressionModel::Exponential).b, 0.25, 1e-9);
 }
 
 TEST(Regression, LogarithmsOutsideTheirDomainLeaveNoNumbers) {

@@ -164,8 +164,8 @@ TEST_F(StatisticsTest, WithoutAModelTheLastResultIsShownAgain) {
   for (const auto caption : {L"r", L"A", L"B", L"C", L"Y'", L"X'", L"X1'", L"X2'"}) {
     EXPECT_EQ(Result(caption), L"3");
   }
-  RegressionPlot plot;
-  EXPECT_EQ(statistics.PreparePlot(plot), L" : Expression is null.");
+  GraphData graph;
+  EXPECT_EQ(statistics.PreparePlot(graph), L" : Expression is null.");
 }
 
 TEST_F(StatisticsTest, OverflowIsTheLastErrorUntilTheNextNumber) {
