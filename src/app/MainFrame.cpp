@@ -11,6 +11,8 @@
 #include "app/WindowPlace.h"
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
+#include "stats/OneVarScreen.h"
+#include "stats/TwoVarScreen.h"
 #include "toolkit/ComingScreen.h"
 
 namespace vexa {
@@ -27,14 +29,15 @@ template <Mode mode>
 ModeScreen* NewComingScreen(SettingsStore&, QWidget* parent) {
   return new ComingScreen(mode, parent);
 }
-ModeScreen* NewCalculatorScreen(SettingsStore& store, QWidget* parent) {
-  return new CalculatorScreen(store, parent);
+template <typename Screen>
+ModeScreen* NewScreen(SettingsStore& store, QWidget* parent) {
+  return new Screen(store, parent);
 }
 constexpr std::array<ModeScreen* (*)(SettingsStore&, QWidget*), kModes.size()> kNewScreen{
-    NewCalculatorScreen,
+    NewScreen<CalculatorScreen>,
     NewComingScreen<Mode::FunctionPlotter>,
-    NewComingScreen<Mode::OneVarStatistics>,
-    NewComingScreen<Mode::TwoVarStatistics>,
+    NewScreen<OneVarScreen>,
+    NewScreen<TwoVarScreen>,
 };
 
 }  // namespace
