@@ -160,7 +160,7 @@ void UnitConverterDialog::ShowOutput() {
 }
 
 void UnitConverterDialog::PressKey(int index) {
-  constexpr void (UnitConverterDialog::*kCommands[])() = {&UnitConverterDialog::accept,
+  static constexpr void (UnitConverterDialog::*kCommands[])() = {&UnitConverterDialog::accept,
                                                           &UnitConverterDialog::reject,
                                                           &UnitConverterDialog::OpenMemoryMenu};
   (this->*kCommands[index])();

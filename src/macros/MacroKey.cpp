@@ -8,11 +8,6 @@
 #include "toolkit/MessageBox.h"
 
 namespace vexa {
-namespace {
-
-constexpr std::wstring_view kNoMacro = L"Not exist saved macro";
-
-}  // namespace
 
 QDialog* NewMacroPicker(SettingsStore& store, EditLine* line, QWidget* screen,
                         std::function<void()> editMacros) {

@@ -51,9 +51,9 @@ inline std::vector<PopupCommand> MemoryMenuCommands(bool hasResult) {
 /// The commands of the screens that have memory variables and no memory register.
 inline std::vector<PopupCommand> VariableMenuCommands(bool hasResult) {
   std::vector<PopupCommand> commands = MemoryMenuCommands(hasResult);
-  std::erase_if(commands, [](const PopupCommand& item) {
-    return item.command != static_cast<int>(MemoryCommand::RecallVariable) &&
-           item.command != static_cast<int>(MemoryCommand::StoreVariable);
+  std::erase_if(commands, [](const PopupCommand& command) {
+    const auto code = static_cast<MemoryCommand>(command.command);
+    return code != MemoryCommand::RecallVariable && code != MemoryCommand::StoreVariable;
   });
   return commands;
 }

@@ -9,9 +9,10 @@ class OneVarScreen : public StatisticsScreen {
   Q_OBJECT
 
  public:
-  /// Reads the settings. `store` must outlive the screen.
-  OneVarScreen(SettingsStore& store, QWidget* parent)
-      : StatisticsScreen(Mode::OneVarStatistics, store, kOneVarColumns, OneVarKeys(), parent) {}
+  /// Reads the settings. `settingsStore` must outlive the screen.
+  OneVarScreen(SettingsStore& settingsStore, QWidget* parent)
+      : StatisticsScreen(Mode::OneVarStatistics, settingsStore, kOneVarColumns, OneVarKeys(),
+                         parent) {}
 };
 
 }  // namespace vexa

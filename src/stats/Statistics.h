@@ -54,7 +54,7 @@ class Statistics {
   /// Prepares the plot of the fitted curve; returns the message that refuses it, empty: success.
   std::wstring PreparePlot(GraphData& graph);
 
-  /// The "MEM" menu.
+  /// The lines of the "MEM" menu.
   std::vector<PopupCommand> MemoryCommands() const {
     return VariableMenuCommands(lastError.empty());
   }

@@ -10,8 +10,9 @@
 
 namespace vexa {
 
-TwoVarScreen::TwoVarScreen(SettingsStore& store, QWidget* parent)
-    : StatisticsScreen(Mode::TwoVarStatistics, store, kTwoVarColumns, TwoVarKeys(), parent) {}
+TwoVarScreen::TwoVarScreen(SettingsStore& settingsStore, QWidget* parent)
+    : StatisticsScreen(Mode::TwoVarStatistics, settingsStore, kTwoVarColumns, TwoVarKeys(),
+                       parent) {}
 
 void TwoVarScreen::RunKey(std::wstring_view caption) {
   if (caption == L"Plot") return Plot();

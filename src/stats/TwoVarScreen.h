@@ -9,8 +9,8 @@ class TwoVarScreen : public StatisticsScreen {
   Q_OBJECT
 
  public:
-  /// Reads the settings. `store` must outlive the screen.
-  TwoVarScreen(SettingsStore& store, QWidget* parent);
+  /// Reads the settings. `settingsStore` must outlive the screen.
+  TwoVarScreen(SettingsStore& settingsStore, QWidget* parent);
 
  protected:
   void RunKey(std::wstring_view caption) override;
