@@ -261,15 +261,15 @@ void StatisticsScreen::Load() {
 
 void StatisticsScreen::LoadFrom(const QString& path) {
   const std::size_t columns = statistics.List().Columns().size();
-  DataSet data{PackedRows(columns)};
+  DataSet loaded{PackedRows(columns)};
   ProgressBox progress(this, QStringLiteral("Loading..."));
   const FileOutcome outcome = LoadDataFile(
-      path, columns, [&](double share) { return progress.Report(share); }, data);
+      path, columns, [&](double share) { return progress.Report(share); }, loaded);
   if (outcome == FileOutcome::Failed) {
     return ShowErrorBox(this, std::wstring(file_dialogs::kFileError));
   }
   if (outcome == FileOutcome::Stopped) return;
-  statistics.Load(std::move(data));
+  statistics.Load(std::move(loaded));
   table->Rows()->RowsReplaced();
   statistics.SelectionChanged(false);
   Refresh();
@@ -281,7 +281,7 @@ void StatisticsScreen::ShowResult(std::wstring_view caption) {
 }
 
 void StatisticsScreen::OpenMemoryMenu() {
-  constexpr std::pair<MemoryCommand, void (StatisticsScreen::*)()> kCommands[] = {
+  static constexpr std::pair<MemoryCommand, void (StatisticsScreen::*)()> kCommands[] = {
       {MemoryCommand::RecallVariable, &StatisticsScreen::RecallVariable},
       {MemoryCommand::StoreVariable, &StatisticsScreen::StoreVariable},
   };
