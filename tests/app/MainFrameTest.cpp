@@ -42,7 +42,7 @@ class MainFrameTest : public QObject {
   /// The class of the one screen.
   QByteArray Screen() const {
     const QList<ModeScreen*> screens = frame->findChildren<ModeScreen*>();
-    return screens.size() == 1 ? screens.front()->metaObject()->className() : QByteArray();
+    return screens.size() == 1 ? screens.front()->metaObject()->className() : "";
   }
 
   std::unique_ptr<MemorySettingsStore> store;
