@@ -50,6 +50,7 @@ class ThemeTest : public QObject {
   void RolesDiffer();
   void WhatIsDisabledCanBeRead();
   void LightBlueIsTheSameInDark();
+  void IndicatorsCanBeSeenInDark();
   void AKeyFollowsAChangeOfThePalette();
   void TheFocusIsVisible();
   void TheFontIsTahomaOrTheDesktops();
@@ -110,6 +111,16 @@ void ThemeTest::LightBlueIsTheSameInDark() {
     QCOMPARE(label.grab().toImage().pixelColor(1, 1), QColor(222, 231, 255));
     QVERIFY(Contrast(label.palette().color(QPalette::WindowText), QColor(222, 231, 255)) >= 4.5);
   }
+}
+
+void ThemeTest::IndicatorsCanBeSeenInDark() {
+  const QPalette dark = PaletteOf(kDarkWindow);
+  const QPalette indicator = theme::IndicatorPalette(dark);
+  const QColor circle = indicator.color(QPalette::Base);
+  QVERIFY(Contrast(circle, kDarkWindow) >= 3);
+  QVERIFY(Contrast(indicator.color(QPalette::Text), circle) >= 4);
+  // In light colours the desktop's own circle has an edge.
+  QCOMPARE(theme::IndicatorPalette(PaletteOf(kLightWindow)), PaletteOf(kLightWindow));
 }
 
 void ThemeTest::AKeyFollowsAChangeOfThePalette() {
