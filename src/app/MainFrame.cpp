@@ -11,7 +11,9 @@
 #include "app/WindowPlace.h"
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
-#include "toolkit/ComingScreen.h"
+#include "plotter/PlotterScreen.h"
+#include "stats/OneVarScreen.h"
+#include "stats/TwoVarScreen.h"
 
 namespace vexa {
 namespace {
@@ -23,18 +25,15 @@ WindowPlace PlaceOf(const QRect& rect) {
 }
 
 /// How each mode's screen is made, in the order of kModes.
-template <Mode mode>
-ModeScreen* NewComingScreen(SettingsStore&, QWidget* parent) {
-  return new ComingScreen(mode, parent);
-}
-ModeScreen* NewCalculatorScreen(SettingsStore& store, QWidget* parent) {
-  return new CalculatorScreen(store, parent);
+template <typename Screen>
+ModeScreen* NewScreen(SettingsStore& store, QWidget* parent) {
+  return new Screen(store, parent);
 }
 constexpr std::array<ModeScreen* (*)(SettingsStore&, QWidget*), kModes.size()> kNewScreen{
-    NewCalculatorScreen,
-    NewComingScreen<Mode::FunctionPlotter>,
-    NewComingScreen<Mode::OneVarStatistics>,
-    NewComingScreen<Mode::TwoVarStatistics>,
+    NewScreen<CalculatorScreen>,
+    NewScreen<PlotterScreen>,
+    NewScreen<OneVarScreen>,
+    NewScreen<TwoVarScreen>,
 };
 
 }  // namespace

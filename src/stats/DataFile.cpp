@@ -56,6 +56,10 @@ void DataFileReader::EndText() {
 
 void DataFileReader::AppendRow() {
   data.rows.Append(texts);
+  StartRow();
+}
+
+void DataFileReader::StartRow() {
   for (std::string& text : texts) text.clear();
   field = 0;
 }
@@ -64,6 +68,7 @@ DataSet DataFileReader::Finish() {
   texts[field].clear();
   // An incomplete first row is kept; meant.
   if (field > 0 && data.completeRows == 0) AppendRow();
+  StartRow();
   return std::exchange(data, DataSet{PackedRows(texts.size())});
 }
 

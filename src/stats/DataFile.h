@@ -26,12 +26,13 @@ class DataFileReader {
   /// Takes the next bytes of the file.
   void Feed(std::string_view bytes);
   /// What the file holds. A text that the end of the file cuts off is dropped, a row that misses
-  /// some text too, unless it is the first one. Ends the reading.
+  /// some text too, unless it is the first one. The reader is ready for another file.
   DataSet Finish();
 
  private:
   void EndText();
   void AppendRow();
+  void StartRow();
   bool AtCount() const { return field + 1 == texts.size(); }
 
   DataSet data;

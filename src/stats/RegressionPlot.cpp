@@ -1,24 +1,16 @@
 #include "stats/RegressionPlot.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "display/FormatResult.h"
-#include "engine/ExprParser.h"
+#include "plotter/GraphFunction.h"
 
 namespace vexa {
 namespace {
 
-constexpr std::wstring_view kXRangeEmpty =
-    L"The maximum value of X should be bigger than the minimum value of X.";
-constexpr std::wstring_view kYRangeEmpty =
-    L"The maximum value of Y should be bigger than the minimum value of Y.";
-
-constexpr std::wstring_view kLabelStart = L"R:F1(X)=";
 constexpr double kMargin = 0.3;
-
-/// A curve in a message: longer ones are cut.
-constexpr std::size_t kLongestShown = 7;
-constexpr std::size_t kShownOfLonger = 5;
 
 /// A curve's text: what stands behind A and behind B, and whether C ends it.
 struct CurvePattern {
@@ -64,10 +56,6 @@ std::vector<DataPoint> PointsOf(const DataList& list) {
   return points;
 }
 
-std::wstring Shortened(const std::wstring& curve) {
-  return curve.size() > kLongestShown ? curve.substr(0, kShownOfLonger) + L"..." : curve;
-}
-
 }  // namespace
 
 std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, int precision,
@@ -87,34 +75,26 @@ std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, 
 }
 
 std::wstring PrepareRegressionPlot(const DataList& list, Regression& regression, int precision,
-                                   std::wstring& lastError, RegressionPlot& plot) {
-  plot = RegressionPlot();
-  plot.points = PointsOf(list);
-  const Extent x = ExtentOf(plot.points, &DataPoint::x);
-  const Extent y = ExtentOf(plot.points, &DataPoint::y);
+                                   std::wstring& lastError, GraphData& graph) {
+  graph = {.options = {.grid = false, .line = true, .coordinates = false}};
+  graph.dataPoints = PointsOf(list);
+  const Extent x = ExtentOf(graph.dataPoints, &DataPoint::x);
+  const Extent y = ExtentOf(graph.dataPoints, &DataPoint::y);
   lastError.clear();
   const std::wstring curve =
       CurveText(regression.Model(), regression.Fitted(), precision, lastError);
   // An empty range is the better reason: the coefficients are no numbers because of it.
-  if (y.min == y.max) lastError = kYRangeEmpty;
-  if (x.min == x.max) lastError = kXRangeEmpty;
+  if (y.min == y.max) lastError = kYRangeOrder;
+  if (x.min == x.max) lastError = kXRangeOrder;
   if (!lastError.empty()) return lastError;
 
-  ExprParser parser;
-  parser.Validate(curve);
-  if (!parser.errorText.empty()) {
-    lastError = parser.errorText;
-    return Shortened(curve) + L" : " + lastError;
-  }
-  plot.label = std::wstring(kLabelStart) + curve;
-  plot.tokens = parser.tokens;
-  plot.tokenCount = parser.tokenCount;
+  GraphFunction function;
+  lastError = ParseGraphFunction(0, curve, function);
+  if (!lastError.empty()) return FunctionRefusal(curve, lastError);
+  graph.functions = {std::move(function)};
   const Extent shownX = WithMargins(x);
   const Extent shownY = WithMargins(y);
-  plot.xMin = shownX.min;
-  plot.xMax = shownX.max;
-  plot.yMin = shownY.min;
-  plot.yMax = shownY.max;
+  graph.ranges = {shownX.min, shownX.max, shownY.min, shownY.max};
   return {};
 }
 

@@ -86,8 +86,8 @@ void Statistics::ChooseModel(RegressionModel model) {
   list.ModelChosen(model == RegressionModel::Linear);
 }
 
-std::wstring Statistics::PreparePlot(RegressionPlot& plot) {
-  return PrepareRegressionPlot(list, regression, precision, lastError, plot);
+std::wstring Statistics::PreparePlot(GraphData& graph) {
+  return PrepareRegressionPlot(list, regression, precision, lastError, graph);
 }
 
 void Statistics::SetDisplay(DisplayType type, int decimals) {

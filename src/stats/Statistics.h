@@ -52,7 +52,7 @@ class Statistics {
   EntryFault ShowResult(std::wstring_view caption, const EntryTexts& texts);
   void ChooseModel(RegressionModel model);
   /// Prepares the plot of the fitted curve; returns the message that refuses it, empty: success.
-  std::wstring PreparePlot(RegressionPlot& plot);
+  std::wstring PreparePlot(GraphData& graph);
 
   /// The lines of the "MEM" menu.
   std::vector<PopupCommand> MemoryCommands() const {

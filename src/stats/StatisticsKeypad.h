@@ -31,7 +31,4 @@ struct StatisticsKeypadState {
 bool IsKeyShown(const Key& key, const StatisticsKeypadState& state);
 bool IsKeyEnabled(const Key& key, const StatisticsKeypadState& state);
 
-/// Whether `key` opens the menu of models.
-bool IsModelKey(const Key& key);
-
 }  // namespace vexa

@@ -66,28 +66,22 @@ void ExpressionScreen::RefreshKeypad() {
 }
 
 void ExpressionScreen::BuildEditMenu(ResultLine* result) {
-  struct EditCommand {
-    const char* text;
-    QKeySequence::StandardKey shortcut;
-    void (QPlainTextEdit::*run)();
-  };
-  constexpr EditCommand kEditCommands[] = {
-      {"Cu&t", QKeySequence::Cut, &QPlainTextEdit::cut},
-      {"&Copy", QKeySequence::Copy, &QPlainTextEdit::copy},
-      {"&Paste", QKeySequence::Paste, &QPlainTextEdit::paste},
-  };
-  QMenu* const menu = AddMenu(QStringLiteral("&Edit"));
-  for (const EditCommand& command : kEditCommands) {
-    QAction* const action = menu->addAction(QString::fromLatin1(command.text), this, [=, this] {
-      // The result has its own selection; the focus tells which one is meant.
-      const bool copiesResult =
-          result && result->hasFocus() && command.shortcut == QKeySequence::Copy;
-      if (copiesResult) return result->copy();
-      (line->*command.run)();
-      line->setFocus();
-    });
-    action->setShortcuts(command.shortcut);
-  }
+  AddEditMenu([this, result](EditCommand command) {
+    // The result has its own selection; the focus tells which one is meant.
+    if (command == EditCommand::Copy && result && result->hasFocus()) return result->copy();
+    switch (command) {
+      case EditCommand::Cut:
+        line->cut();
+        break;
+      case EditCommand::Copy:
+        line->copy();
+        break;
+      case EditCommand::Paste:
+        line->paste();
+        break;
+    }
+    line->setFocus();
+  });
 }
 
 void ExpressionScreen::ShowHistory(const TextHistory& history, std::function<void(int)> chosen) {

@@ -40,7 +40,13 @@ void Keypad::resizeEvent(QResizeEvent*) {
   }
 }
 
+void Keypad::SetKeyHeight(int height) {
+  keyHeight = height;
+  updateGeometry();
+}
+
 QSize Keypad::SizeFor(QSize cell) const {
+  if (keyHeight > 0) cell.setHeight(keyHeight);
   return {columns * (cell.width() + kGap) - kGap, rows * (cell.height() + kGap) - kGap};
 }
 

@@ -23,6 +23,9 @@ class Keypad : public QWidget {
   /// `keyTable` must outlive the keypad.
   Keypad(std::span<const Key> keyTable, QWidget* parent);
 
+  /// Keys may be as low as this, and the keypad asks for no more; without it keys ask for what is
+  /// comfortable for a calculator's.
+  void SetKeyHeight(int height);
   /// Shows and enables the keys as the tests say. Keys that share a cell: at most one is shown.
   void Refresh(const KeyTest& isShown, const KeyTest& isEnabled);
   /// The button with this caption, or null.
@@ -39,11 +42,12 @@ class Keypad : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  /// The size in which every cell is `cell`.
+  /// The size in which every cell is `cell`, or of the height that was set.
   QSize SizeFor(QSize cell) const;
 
   std::span<const Key> keys;
   std::vector<KeyButton*> buttons;
+  int keyHeight = 0;
   int rows = 0;
   int columns = 0;
 };

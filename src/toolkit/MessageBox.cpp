@@ -1,6 +1,7 @@
 #include "toolkit/MessageBox.h"
 
 #include <QMessageBox>
+#include <QPushButton>
 #include <utility>
 
 #include "display/SettingsLayout.h"
@@ -33,6 +34,22 @@ void AskYesNo(QWidget* parent, const std::wstring& question, std::function<void(
   QObject::connect(box, &QMessageBox::finished, parent, [yes = std::move(yes)](int answer) {
     if (answer == QMessageBox::Yes) yes();
   });
+  box->open();
+}
+
+void AskEitherWay(QWidget* parent, const std::wstring& question,
+                  std::function<void(bool yes)> answered) {
+  QMessageBox* const box =
+      NewBox(parent, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No);
+  box->setDefaultButton(QMessageBox::Yes);
+  // Without a button of its own, Escape would press "No".
+  QPushButton* const noAnswer = box->addButton(QMessageBox::Cancel);
+  noAnswer->hide();
+  box->setEscapeButton(noAnswer);
+  QObject::connect(box, &QMessageBox::finished, parent,
+                   [answered = std::move(answered)](int answer) {
+                     if (answer != QMessageBox::Cancel) answered(answer == QMessageBox::Yes);
+                   });
   box->open();
 }
 

@@ -9,11 +9,17 @@ namespace vexa {
 
 /// Shows `sentence` with the error icon over `parent`; `closed` runs when the user has closed it,
 /// for example to give the focus to the field at fault.
-void ShowErrorBox(QWidget* parent, const std::wstring& sentence,
-                  std::function<void()> closed = [] {});
+void ShowErrorBox(
+    QWidget* parent, const std::wstring& sentence, std::function<void()> closed = [] {});
 
 /// Asks `question` with the question icon, answers "Yes" and "No" (the default); `yes` runs when
 /// the user agrees.
 void AskYesNo(QWidget* parent, const std::wstring& question, std::function<void()> yes);
+
+/// Asks `question` in the same way where both answers lead on: `answered` runs with whether it was
+/// "Yes" (the default). Escape is no answer: it takes back what led to the question, and nothing
+/// runs.
+void AskEitherWay(QWidget* parent, const std::wstring& question,
+                  std::function<void(bool yes)> answered);
 
 }  // namespace vexa

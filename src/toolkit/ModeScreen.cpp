@@ -31,7 +31,7 @@ ModeScreen::ModeScreen(Mode mode, QWidget* parent)
 
 void ModeScreen::BuildFileMenu() {
   fileMenu = menuBar->addMenu(QStringLiteral("&File"));
-  exitAction = fileMenu->addAction(QStringLiteral("E&xit"), this, &ModeScreen::ExitChosen);
+  exitAction = fileMenu->addAction(QStringLiteral("E&xit"), this, &ModeScreen::Exit);
   exitAction->setShortcuts(QKeySequence::Quit);
   AddFileCommand(QStringLiteral("&About..."), this, &ModeScreen::ShowAbout);
 }
@@ -47,13 +47,21 @@ void ModeScreen::BuildModeMenu(Mode mode) {
   modeMenuAction = menu->menuAction();
   auto* const group = new QActionGroup(menu);
   for (const ModeName& entry : kModes) {
-    QAction* const action = menu->addAction(FromWide(entry.name), this, [this, entry] {
-      emit ModeChosen(static_cast<int>(entry.mode));
-    });
+    const int code = static_cast<int>(entry.mode);
+    const auto choose = [this, code] { emit ModeChosen(code); };
+    // The own mode is not left.
+    QAction* const action = entry.mode == mode
+                                ? menu->addAction(FromWide(entry.name), this, choose)
+                                : menu->addAction(FromWide(entry.name), this,
+                                                  [this, choose] { PrepareToLeave(choose); });
     action->setCheckable(true);
     action->setChecked(entry.mode == mode);
     group->addAction(action);
   }
+}
+
+void ModeScreen::Exit() {
+  PrepareToLeave([this] { emit ExitChosen(); });
 }
 
 QMenu* ModeScreen::AddMenu(const QString& title) {
@@ -62,7 +70,28 @@ QMenu* ModeScreen::AddMenu(const QString& title) {
   return menu;
 }
 
+QMenu* ModeScreen::AddEditMenu(std::function<void(EditCommand)> run) {
+  struct EditAction {
+    EditCommand command;
+    const char* text;
+    QKeySequence::StandardKey shortcut;
+  };
+  constexpr EditAction kEditActions[] = {
+      {EditCommand::Cut, "Cu&t", QKeySequence::Cut},
+      {EditCommand::Copy, "&Copy", QKeySequence::Copy},
+      {EditCommand::Paste, "&Paste", QKeySequence::Paste},
+  };
+  QMenu* const menu = AddMenu(QStringLiteral("&Edit"));
+  for (const EditAction& entry : kEditActions) {
+    QAction* const action = menu->addAction(QString::fromLatin1(entry.text), this,
+                                            [run, command = entry.command] { run(command); });
+    action->setShortcuts(entry.shortcut);
+  }
+  return menu;
+}
+
 void ModeScreen::SetDefaultButton(QPushButton* button) {
+  if (defaultButton) defaultButton->setDefault(false);
   defaultButton = button;
   button->setDefault(true);
 }

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QWidget>
+#include <functional>
 
 #include "toolkit/Modes.h"
 
@@ -26,6 +27,11 @@ class ModeScreen : public QWidget {
   void ExitChosen();
 
  protected:
+  /// Another mode or the exit was chosen: runs `leave` once nothing stands against it. A screen
+  /// with something to ask first asks, and runs it after the answer. The frame itself can go at any
+  /// time, without this.
+  virtual void PrepareToLeave(std::function<void()> leave) { leave(); }
+
   /// Enter runs `button`, whatever control has the focus.
   void SetDefaultButton(QPushButton* button);
   /// Adds a command to the "File" menu, before "Exit".
@@ -37,6 +43,10 @@ class ModeScreen : public QWidget {
   }
   /// Adds a menu between "File" and "Mode".
   QMenu* AddMenu(const QString& title);
+  /// The commands of an "Edit" menu.
+  enum class EditCommand { Cut, Copy, Paste };
+  /// Adds an "Edit" menu, whose commands `run` carries out.
+  QMenu* AddEditMenu(std::function<void(EditCommand)> run);
   /// The layout of the screen's controls, below the menus.
   QVBoxLayout* Content() const { return content; }
 
@@ -46,6 +56,7 @@ class ModeScreen : public QWidget {
   void BuildFileMenu();
   QAction* NewFileCommand(const QString& text);
   void BuildModeMenu(Mode mode);
+  void Exit();
   void ShowAbout();
 
   QVBoxLayout* content;

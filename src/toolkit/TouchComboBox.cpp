@@ -47,4 +47,9 @@ void TouchComboBox::paintEvent(QPaintEvent*) {
   painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
+void TouchComboBox::showPopup() {
+  emit Opening();
+  QComboBox::showPopup();
+}
+
 }  // namespace vexa

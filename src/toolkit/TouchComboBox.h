@@ -15,6 +15,12 @@ class TouchComboBox : public QComboBox {
  public:
   explicit TouchComboBox(QWidget* parent);
 
+  void showPopup() override;
+
+ signals:
+  /// The list is about to drop down.
+  void Opening();
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

@@ -143,9 +143,9 @@ class RegressionVectors : public testing::Test {
   void CheckPlot(const QJsonObject& testCase, const QJsonObject& expected, const DataList& list,
                  Regression& regression) {
     std::wstring lastError;
-    RegressionPlot plot;
+    GraphData graph;
     const std::wstring message =
-        PrepareRegressionPlot(list, regression, testCase["precision"].toInt(), lastError, plot);
+        PrepareRegressionPlot(list, regression, testCase["precision"].toInt(), lastError, graph);
     EXPECT_EQ(message, expected["message"].toString().toStdWString());
     EXPECT_EQ(lastError, message);
     std::wstring ignored;
@@ -154,13 +154,15 @@ class RegressionVectors : public testing::Test {
               expected["curve"].toString().toStdString());
     if (!message.empty()) return;
     const QJsonValue ranges = expected["ranges"];
-    EXPECT_EQ(plot.xMin, Double(ranges[0]));
-    EXPECT_EQ(plot.xMax, Double(ranges[1]));
-    EXPECT_EQ(plot.yMin, Double(ranges[2]));
-    EXPECT_EQ(plot.yMax, Double(ranges[3]));
-    EXPECT_EQ(Narrow(plot.label), "R:F1(X)=" + expected["curve"].toString().toStdString());
-    EXPECT_EQ(plot.points.size(), list.RowCount());
-    EXPECT_GT(plot.tokenCount, 0);
+    EXPECT_EQ(graph.ranges.xMin, Double(ranges[0]));
+    EXPECT_EQ(graph.ranges.xMax, Double(ranges[1]));
+    EXPECT_EQ(graph.ranges.yMin, Double(ranges[2]));
+    EXPECT_EQ(graph.ranges.yMax, Double(ranges[3]));
+    ASSERT_EQ(graph.functions.size(), 1u);
+    EXPECT_EQ(Narrow(graph.functions[0].label),
+              "R:F1(X)=" + expected["curve"].toString().toStdString());
+    EXPECT_FALSE(graph.functions[0].tokens.empty());
+    EXPECT_EQ(graph.dataPoints.size(), list.RowCount());
     ++plotted;
   }
 

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QWidget>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "stats/DataEntry.h"
+#include "stats/StatisticsKeypad.h"
+
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace vexa {
+
+/// The edits of a row, one for each column, with "Add" and the total below them, or "Ok" and
+/// "Cancel" while a row is edited.
+class DataEntryForm : public QWidget {
+  Q_OBJECT
+
+ public:
+  DataEntryForm(std::span<const ListColumn> columns, QWidget* parent);
+
+  EntryTexts Texts() const;
+  void SetTexts(const EntryTexts& texts);
+  /// The edit that had the focus last.
+  QLineEdit* LastEdit() const { return lastEdit; }
+  /// Gives the edit at `field` the focus, with its whole text selected.
+  void FocusEdit(std::size_t field);
+  void FocusLastEdit();
+  /// Replaces the whole text of the edit that had the focus last, and gives it the focus.
+  void ReplaceLastText(const QString& text);
+  /// Shows what belongs to the state.
+  void Refresh(const StatisticsKeypadState& state, std::int32_t total);
+  /// The button with this caption, or null.
+  QPushButton* Button(std::wstring_view caption) const;
+
+ signals:
+  void KeyPressed(std::wstring_view caption);
+
+ private:
+  void AddEdit(const ListColumn& column, bool isCount);
+  void AddKey(const Key& key);
+  void AddTotal();
+
+  QHBoxLayout* editRow;
+  QHBoxLayout* keyRow;
+  std::vector<QLineEdit*> edits;
+  std::vector<QPushButton*> buttons;
+  QLineEdit* lastEdit = nullptr;
+  QWidget* totals = nullptr;
+  QLabel* total = nullptr;
+};
+
+}  // namespace vexa

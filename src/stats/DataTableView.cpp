@@ -1,0 +1,107 @@
+#include "stats/DataTableView.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "toolkit/TouchSize.h"
+
+namespace vexa {
+namespace {
+
+/// Rows that the list has at least, and asks for.
+constexpr int kLeastRows = 1;
+constexpr int kWantedRows = 4;
+
+}  // namespace
+
+DataTableView::DataTableView(const DataList& shownList, QWidget* parent)
+    : QTableView(parent), list(shownList), rows(new DataTableModel(shownList, this)) {
+  setModel(rows);
+  setObjectName(QStringLiteral("Data"));
+  setAccessibleName(QStringLiteral("Data"));
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  setAlternatingRowColors(true);
+  setShowGrid(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+  verticalHeader()->hide();
+  // Rows of one height are laid out at once, however many there are.
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(kTouchHeight);
+  QHeaderView* const headings = horizontalHeader();
+  headings->setFixedHeight(kTouchHeight);
+  headings->setSectionResizeMode(QHeaderView::Fixed);
+  headings->setHighlightSections(false);
+  headings->setSectionsClickable(true);
+  headings->setSortIndicatorShown(true);
+  ShowSortMark();
+  connect(headings, &QHeaderView::sectionClicked, this, &DataTableView::SortAsked);
+  connect(this, &QTableView::doubleClicked, this, &DataTableView::EditAsked);
+}
+
+std::optional<std::size_t> DataTableView::FirstSelectedRow() const {
+  const QItemSelection selection = selectionModel()->selection();
+  if (selection.isEmpty()) return std::nullopt;
+  const auto first = std::ranges::min_element(selection, {}, &QItemSelectionRange::top);
+  return static_cast<std::size_t>(first->top());
+}
+
+void DataTableView::ShowSortMark() {
+  const int column = list.sortMark ? static_cast<int>(list.sortMark->column) : -1;
+  const bool descending = list.sortMark && list.sortMark->direction == SortDirection::Descending;
+  horizontalHeader()->setSortIndicator(column,
+                                       descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+QSize DataTableView::sizeHint() const {
+  return {QTableView::sizeHint().width(), (kWantedRows + 1) * kTouchHeight + 2 * frameWidth()};
+}
+
+QSize DataTableView::minimumSizeHint() const {
+  return {0, (kLeastRows + 1) * kTouchHeight + 2 * frameWidth()};
+}
+
+void DataTableView::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Delete)) {
+    emit DeleteAsked();
+  } else if (event->key() == Qt::Key_F2) {
+    emit EditAsked();
+  } else {
+    QTableView::keyPressEvent(event);
+  }
+}
+
+void DataTableView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  FitColumns();
+}
+
+void DataTableView::selectionChanged(const QItemSelection& selected,
+                                     const QItemSelection& deselected) {
+  QTableView::selectionChanged(selected, deselected);
+  emit SelectedRowsChanged();
+}
+
+void DataTableView::FitColumns() {
+  int designed = 0;
+  for (const ListColumn& column : list.Columns()) designed += column.width;
+  const int width = viewport()->width();
+  // Columns share the room as on the smallest layout; the last one gets what rounding leaves.
+  int left = 0;
+  int designedLeft = 0;
+  for (std::size_t n = 0; n < list.Columns().size(); ++n) {
+    designedLeft += list.Columns()[n].width;
+    const int right = width * designedLeft / designed;
+    setColumnWidth(static_cast<int>(n), right - left);
+    left = right;
+  }
+}
+
+}  // namespace vexa

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QTableView>
+#include <optional>
+
+#include "stats/DataList.h"
+#include "stats/DataTableModel.h"
+
+namespace vexa {
+
+/// The data list on the screen: whole rows are selected, a click on a heading asks for sorting, the
+/// usual keys of a list work. It asks; the screen acts.
+class DataTableView : public QTableView {
+  Q_OBJECT
+
+ public:
+  /// `shownList` must outlive the view.
+  DataTableView(const DataList& shownList, QWidget* parent);
+
+  DataTableModel* Rows() const { return rows; }
+  /// The topmost selected row; none: nothing is selected.
+  std::optional<std::size_t> FirstSelectedRow() const;
+  /// Shows the list's sort mark in the headings.
+  void ShowSortMark();
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  /// Rows were selected or not any more.
+  void SelectedRowsChanged();
+  void SortAsked(int column);
+  /// The key that deletes was pressed.
+  void DeleteAsked();
+  /// The key that edits was pressed, or a row was clicked twice.
+  void EditAsked();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+ private:
+  void FitColumns();
+
+  const DataList& list;
+  DataTableModel* rows;
+};
+
+}  // namespace vexa

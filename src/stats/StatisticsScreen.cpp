@@ -1,0 +1,342 @@
+#include "stats/StatisticsScreen.h"
+
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "display/DisplayFormattingDialog.h"
+#include "display/WideText.h"
+#include "macros/MemoryVariableDialog.h"
+#include "stats/DataEntryForm.h"
+#include "stats/DataFileAccess.h"
+#include "stats/DataTableView.h"
+#include "toolkit/FileDialogs.h"
+#include "toolkit/KeyButton.h"
+#include "toolkit/Keypad.h"
+#include "toolkit/MessageBox.h"
+#include "toolkit/PopupMenu.h"
+#include "toolkit/ProgressBox.h"
+#include "toolkit/ResultLine.h"
+#include "toolkit/TouchSize.h"
+
+namespace vexa {
+namespace {
+
+/// Shares of the window's height.
+constexpr int kListShare = 5;
+constexpr int kResultsShare = 4;
+/// The least that is seen of the result keys, which scroll where the window is low.
+constexpr int kLeastResultsHeight = 54;
+
+constexpr const char* kFileFilter = "TXT(*.txt)";
+
+void HideKeyboard() {
+  QGuiApplication::inputMethod()->hide();
+}
+
+/// `keypad` in a frame that scrolls it where it has no room.
+QWidget* Scrolling(QWidget* keypad, QWidget* parent) {
+  auto* const area = new QScrollArea(parent);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setMinimumHeight(kLeastResultsHeight);
+  area->setWidget(keypad);
+  return area;
+}
+
+}  // namespace
+
+/// The keys that run a command; all others show a result.
+const StatisticsScreen::KeyCommand StatisticsScreen::kKeyCommands[] = {
+    {L"Add", &StatisticsScreen::Add},
+    {L"Ok", &StatisticsScreen::Ok},
+    {L"Cancel", &StatisticsScreen::Cancel},
+    {L"Edit", &StatisticsScreen::Edit},
+    {L"Delete", &StatisticsScreen::Delete},
+    {L"Clear", &StatisticsScreen::Clear},
+    {L"Save", &StatisticsScreen::Save},
+    {L"Load", &StatisticsScreen::Load},
+    {L"MEM", &StatisticsScreen::OpenMemoryMenu},
+};
+
+StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
+                                   std::span<const ListColumn> columns, std::span<const Key> keys,
+                                   QWidget* parent)
+    : ModeScreen(mode, parent),
+      store(settingsStore),
+      statistics(settingsStore, columns),
+      form(new DataEntryForm(columns, this)),
+      table(new DataTableView(statistics.List(), this)),
+      listKeys(new Keypad(ListKeys(), this)),
+      resultLine(new ResultLine(this)),
+      resultKeys(new Keypad(keys, this)) {
+  listKeys->SetKeyHeight(kTouchHeight);
+  listKeys->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  resultKeys->SetKeyHeight(kTouchHeight);
+  resultLine->setObjectName(QStringLiteral("Result"));
+  resultLine->setAccessibleName(QStringLiteral("Result"));
+  resultLine->setFixedHeight(kTouchHeight);
+  Content()->addWidget(form);
+  Content()->addWidget(table, kListShare);
+  Content()->addWidget(listKeys);
+  Content()->addWidget(resultLine);
+  Content()->addWidget(Scrolling(resultKeys, this), kResultsShare);
+  setFocusProxy(form);
+
+  BuildMenus();
+  connect(form, &DataEntryForm::KeyPressed, this, &StatisticsScreen::RunKey);
+  connect(listKeys, &Keypad::KeyPressed, this,
+          [this](int index) { RunKey(ListKeys()[static_cast<std::size_t>(index)].caption); });
+  connect(resultKeys, &Keypad::KeyPressed, this,
+          [this, keys](int index) { RunKey(keys[static_cast<std::size_t>(index)].caption); });
+  connect(table, &DataTableView::SortAsked, this, &StatisticsScreen::Sort);
+  connect(table, &DataTableView::DeleteAsked, this, &StatisticsScreen::Delete);
+  connect(table, &DataTableView::EditAsked, this, &StatisticsScreen::Edit);
+  connect(table, &DataTableView::SelectedRowsChanged, this, [this] {
+    statistics.SelectionChanged(table->FirstSelectedRow().has_value());
+    HideKeyboard();
+    Refresh();
+  });
+  Refresh();
+}
+
+void StatisticsScreen::BuildMenus() {
+  AddFileCommand(QStringLiteral("&Config..."), this, &StatisticsScreen::Configure);
+  QMenu* const menu = AddEditMenu([this](EditCommand command) { RunEditCommand(command); });
+  // Headings cannot be reached by keys.
+  menu->addSeparator();
+  for (std::size_t n = 0; n < statistics.List().Columns().size(); ++n) {
+    const QString caption = FromWide(statistics.List().Columns()[n].caption);
+    menu->addAction(QStringLiteral("Sort by %1").arg(caption), this,
+                    [this, n] { Sort(static_cast<int>(n)); });
+  }
+}
+
+StatisticsKeypadState StatisticsScreen::KeypadState() const {
+  const DataList& list = statistics.List();
+  return {list.EditedRow().has_value(), list.Controls(), statistics.Model()};
+}
+
+void StatisticsScreen::Refresh() {
+  const StatisticsKeypadState state = KeypadState();
+  const auto isShown = [&](const Key& key) { return IsKeyShown(key, state); };
+  const auto isEnabled = [&](const Key& key) { return IsKeyEnabled(key, state); };
+  form->Refresh(state, statistics.List().Total());
+  listKeys->Refresh(isShown, isEnabled);
+  resultKeys->Refresh(isShown, isEnabled);
+  table->setEnabled(state.controls.list);
+  table->ShowSortMark();
+  resultLine->ShowText(FromWide(statistics.resultLine));
+  SetDefaultButton(form->Button(state.editing ? L"Ok" : L"Add"));
+}
+
+void StatisticsScreen::RunKey(std::wstring_view caption) {
+  for (const KeyCommand& command : kKeyCommands) {
+    if (command.caption == caption) return (this->*command.run)();
+  }
+  ShowResult(caption);
+}
+
+void StatisticsScreen::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && statistics.List().EditedRow()) return Cancel();
+  ModeScreen::keyPressEvent(event);
+}
+
+bool StatisticsScreen::Complain(const EntryFault& fault) {
+  if (fault.sentence.empty()) return false;
+  ShowErrorBox(this, fault.sentence, [this, field = fault.field] { form->FocusEdit(field); });
+  return true;
+}
+
+void StatisticsScreen::Add() {
+  if (Complain(statistics.Add(form->Texts()))) return;
+  table->Rows()->RowInsertedAtTop();
+  table->scrollToTop();
+  Refresh();
+  form->FocusEdit(0);
+}
+
+void StatisticsScreen::Edit() {
+  const auto row = table->FirstSelectedRow();
+  if (!row) return;
+  form->SetTexts(statistics.Edit(*row));
+  Refresh();
+  form->FocusEdit(0);
+}
+
+void StatisticsScreen::Ok() {
+  if (Complain(statistics.Ok(form->Texts()))) return;
+  table->Rows()->TextsChanged();
+  EndEditing();
+}
+
+void StatisticsScreen::Cancel() {
+  statistics.Cancel();
+  EndEditing();
+}
+
+void StatisticsScreen::EndEditing() {
+  Refresh();
+  table->setFocus();
+  HideKeyboard();
+}
+
+void StatisticsScreen::Delete() {
+  HideKeyboard();
+  const auto row = table->FirstSelectedRow();
+  if (!row) return ShowErrorBox(this, std::wstring(DataList::kNothingSelected));
+  AskYesNo(this, std::wstring(DataList::kDeleteQuestion), [this, row] { DeleteRow(*row); });
+}
+
+void StatisticsScreen::DeleteRow(std::size_t row) {
+  statistics.Delete(row);
+  table->Rows()->RowRemoved(static_cast<int>(row));
+  statistics.SelectionChanged(table->FirstSelectedRow().has_value());
+  Refresh();
+}
+
+void StatisticsScreen::Clear() {
+  HideKeyboard();
+  AskYesNo(this, std::wstring(DataList::kClearQuestion), [this] {
+    statistics.Clear();
+    table->Rows()->RowsReplaced();
+    Refresh();
+  });
+}
+
+void StatisticsScreen::Sort(int column) {
+  if (!statistics.List().Controls().list) return;
+  ProgressBox progress(this, QStringLiteral("Sorting..."));
+  const bool sorted = statistics.Sort(static_cast<std::size_t>(column),
+                                      [&](double share) { return progress.Report(share); });
+  if (sorted) table->Rows()->TextsChanged();
+  Refresh();
+}
+
+void StatisticsScreen::PrepareToLeave(std::function<void()> leave) {
+  AskToSaveThen(std::move(leave));
+}
+
+void StatisticsScreen::AskToSaveThen(std::function<void()> next) {
+  if (!statistics.List().AsksToSave()) return next();
+  AskEitherWay(this, std::wstring(DataList::kSaveQuestion),
+               [this, next = std::move(next)](bool save) { save ? SaveThen(next) : next(); });
+}
+
+void StatisticsScreen::SaveThen(std::function<void()> next) {
+  HideKeyboard();
+  file_dialogs::AskForFileToSave(this, QString::fromLatin1(kFileFilter),
+                                 [this, next = std::move(next)](const file_dialogs::Answer& path) {
+                                   path ? SaveTo(*path, next) : next();
+                                 });
+}
+
+void StatisticsScreen::SaveTo(const QString& path, std::function<void()> next) {
+  ProgressBox progress(this, QStringLiteral("Saving..."));
+  const FileOutcome outcome = SaveDataFile(path, statistics.List().Rows(),
+                                           [&](double share) { return progress.Report(share); });
+  if (outcome == FileOutcome::Done) statistics.Saved();
+  if (outcome == FileOutcome::Failed) {
+    return ShowErrorBox(this, std::wstring(file_dialogs::kFileError), std::move(next));
+  }
+  next();
+}
+
+void StatisticsScreen::Load() {
+  HideKeyboard();
+  AskToSaveThen([this] {
+    file_dialogs::AskForFileToOpen(this, QString::fromLatin1(kFileFilter),
+                                   [this](const file_dialogs::Answer& path) {
+                                     if (path) LoadFrom(*path);
+                                   });
+  });
+}
+
+void StatisticsScreen::LoadFrom(const QString& path) {
+  const std::size_t columns = statistics.List().Columns().size();
+  DataSet data{PackedRows(columns)};
+  ProgressBox progress(this, QStringLiteral("Loading..."));
+  const FileOutcome outcome = LoadDataFile(
+      path, columns, [&](double share) { return progress.Report(share); }, data);
+  if (outcome == FileOutcome::Failed) {
+    return ShowErrorBox(this, std::wstring(file_dialogs::kFileError));
+  }
+  if (outcome == FileOutcome::Stopped) return;
+  statistics.Load(std::move(data));
+  table->Rows()->RowsReplaced();
+  statistics.SelectionChanged(false);
+  Refresh();
+}
+
+void StatisticsScreen::ShowResult(std::wstring_view caption) {
+  if (Complain(statistics.ShowResult(caption, form->Texts()))) return;
+  Refresh();
+}
+
+void StatisticsScreen::OpenMemoryMenu() {
+  constexpr std::pair<MemoryCommand, void (StatisticsScreen::*)()> kCommands[] = {
+      {MemoryCommand::RecallVariable, &StatisticsScreen::RecallVariable},
+      {MemoryCommand::StoreVariable, &StatisticsScreen::StoreVariable},
+  };
+  const QWidget* const key = resultKeys->Button(L"MEM");
+  ShowPopupMenu(resultKeys, key->geometry().topLeft(), PopupSide::Right,
+                statistics.MemoryCommands(),
+                [=, this](int chosen) {
+                  for (const auto& [command, run] : kCommands) {
+                    if (static_cast<int>(command) == chosen) (this->*run)();
+                  }
+                })
+      ->setObjectName(QStringLiteral("Memory"));
+}
+
+void StatisticsScreen::RecallVariable() {
+  auto* const dialog = new MemoryVariableDialog(store, this);
+  connect(dialog, &MemoryVariableDialog::Recalled, this, [this](int index) {
+    form->ReplaceLastText(FromWide(statistics.RecallText(MemoryVariables(store).Value(index))));
+  });
+  OpenDialog(dialog);
+}
+
+void StatisticsScreen::StoreVariable() {
+  OpenDialog(new MemoryVariableDialog(store, statistics.MemoryVariableText(), this));
+}
+
+void StatisticsScreen::Configure() {
+  auto* const dialog =
+      new DisplayFormattingDialog(statistics.displayType, statistics.precision, this);
+  connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    statistics.SetDisplay(dialog->displayType, dialog->decimalPlaces);
+    Refresh();
+  });
+  OpenDialog(dialog);
+}
+
+void StatisticsScreen::OpenDialog(QDialog* dialog) {
+  connect(dialog, &QDialog::finished, form, &DataEntryForm::FocusLastEdit);
+  dialog->open();
+}
+
+void StatisticsScreen::RunEditCommand(EditCommand command) {
+  QLineEdit* const edit = form->LastEdit();
+  switch (command) {
+    case EditCommand::Cut:
+      edit->cut();
+      break;
+    case EditCommand::Copy:
+      edit->copy();
+      break;
+    case EditCommand::Paste:
+      edit->paste();
+      break;
+  }
+  edit->setFocus();
+}
+
+}  // namespace vexa

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string_view>
+
+#include "stats/Statistics.h"
+#include "stats/StatisticsKeypad.h"
+#include "toolkit/ModeScreen.h"
+
+class QDialog;
+
+namespace vexa {
+
+class DataEntryForm;
+class DataTableView;
+class Keypad;
+class ResultLine;
+
+/// What the statistics screens share, which is nearly all: edits, data list, files, results, memory
+/// variables. They differ in their columns and keys.
+class StatisticsScreen : public ModeScreen {
+  Q_OBJECT
+
+ protected:
+  /// Reads the settings. `store` and `keys` must outlive the screen.
+  StatisticsScreen(Mode mode, SettingsStore& store, std::span<const ListColumn> columns,
+                   std::span<const Key> keys, QWidget* parent);
+
+  Statistics& Rules() { return statistics; }
+  SettingsStore& Store() { return store; }
+  Keypad* ResultKeys() const { return resultKeys; }
+  /// Shows what the rules say.
+  void Refresh();
+  /// Gives the edit that had the focus last the focus again when `dialog` is closed, and opens it.
+  void OpenDialog(QDialog* dialog);
+
+  /// Runs the command of the key with this caption, or shows its result.
+  virtual void RunKey(std::wstring_view caption);
+
+  void PrepareToLeave(std::function<void()> leave) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  struct KeyCommand {
+    std::wstring_view caption;
+    void (StatisticsScreen::*run)();
+  };
+  static const KeyCommand kKeyCommands[];
+
+  void BuildKeypads();
+  void BuildMenus();
+  StatisticsKeypadState KeypadState() const;
+  /// Says what is wrong with an edit, whose focus comes back; false: nothing is.
+  bool Complain(const EntryFault& fault);
+
+  void Add();
+  void Edit();
+  void Ok();
+  void Cancel();
+  void EndEditing();
+  void Delete();
+  void DeleteRow(std::size_t row);
+  void Clear();
+  void Sort(int column);
+  void Save() {
+    SaveThen([] {});
+  }
+  void Load();
+  void LoadFrom(const QString& path);
+  void ShowResult(std::wstring_view caption);
+  void OpenMemoryMenu();
+  void RecallVariable();
+  void StoreVariable();
+  void Configure();
+  void RunEditCommand(EditCommand command);
+
+  /// Asks whether to save what would be lost, saves it, and runs `next` either way.
+  void AskToSaveThen(std::function<void()> next);
+  /// Asks for a file and saves; runs `next` whatever comes of it.
+  void SaveThen(std::function<void()> next);
+  void SaveTo(const QString& path, std::function<void()> next);
+
+  SettingsStore& store;
+  Statistics statistics;
+  DataEntryForm* form;
+  DataTableView* table;
+  Keypad* listKeys;
+  ResultLine* resultLine;
+  Keypad* resultKeys;
+};
+
+}  // namespace vexa

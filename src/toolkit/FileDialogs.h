@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+class QWidget;
+
+/// The dialogs that ask for a file. They are opened and return at once; what goes on is said by
+/// their callbacks.
+namespace vexa::file_dialogs {
+
+/// What is shown when a file cannot be read or written.
+inline constexpr std::wstring_view kFileError = L"File Error";
+
+/// What a dialog ends with: the file that was chosen, or none.
+using Answer = std::optional<QString>;
+using Answered = std::function<void(const Answer& path)>;
+
+/// Asks for a file to read. `filter`: description and pattern, e.g. "TXT(*.txt)".
+void AskForFileToOpen(QWidget* parent, const QString& filter, Answered answered);
+/// Asks for a file to write, which may exist: then the user is asked whether to replace it. Files
+/// that must not be written are not shown. No suffix is added to a name.
+void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered);
+
+/// For tests: the next dialogs do not open and end with these answers, in this order.
+void AddNextAnswer(const Answer& answer);
+
+}  // namespace vexa::file_dialogs

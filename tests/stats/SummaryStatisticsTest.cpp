@@ -1,0 +1,97 @@
+// Sums, means and standard deviations of small lists.
+
+#include "stats/SummaryStatistics.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "stats/Lists.h"
+
+namespace vexa {
+namespace {
+
+using test::ListOf;
+
+TEST(SummaryStatistics, WeighsRowsByTheirCounts) {
+  const DataList list = ListOf({{"2", "3"}, {"4", "1"}});
+  EXPECT_EQ(Sum(list, 0), 10.0);
+  EXPECT_EQ(SumOfSquares(list, 0), 28.0);
+  EXPECT_EQ(Mean(list, 0), 2.5);
+  EXPECT_EQ(PopulationDeviation(list, 0), std::pow((28.0 - 4 * 2.5 * 2.5) / 4, 0.5));
+  EXPECT_NEAR(PopulationDeviation(list, 0), 0.866025, 1e-6);
+  EXPECT_EQ(SampleDeviation(list, 0), 1.0);
+}
+
+TEST(SummaryStatistics, CountOfZeroAddsNothing) {
+  const DataList list = ListOf({{"2", "3"}, {"1e300", "0"}, {"4", "1"}});
+  EXPECT_EQ(list.RowCount(), 3u);
+  EXPECT_EQ(list.Total(), 4);
+  EXPECT_EQ(Sum(list, 0), 10.0);
+  EXPECT_EQ(Mean(list, 0), 2.5);
+}
+
+TEST(SummaryStatistics, TextThatIsNoNumberCountsAsZero) {
+  const DataList list = ListOf({{"abc", "3"}, {"4", "1"}});
+  EXPECT_EQ(Sum(list, 0), 4.0);
+  EXPECT_EQ(SumOfSquares(list, 0), 16.0);
+  EXPECT_EQ(Mean(list, 0), 1.0) << "its count still adds to n";
+}
+
+TEST(SummaryStatistics, NegativeCounts) {
+  const DataList list = ListOf({{"2", "-1"}, {"4", "3"}});
+  EXPECT_EQ(Sum(list, 0), 10.0);
+  EXPECT_EQ(SumOfSquares(list, 0), 44.0);
+  EXPECT_EQ(Mean(list, 0), 5.0);
+}
+
+TEST(SummaryStatistics, LargestCount) {
+  const DataList list = ListOf({{"0.5", "2147483647"}, {"1", "0"}});
+  EXPECT_EQ(Sum(list, 0), 1073741823.5);
+  EXPECT_EQ(Mean(list, 0), 0.5);
+  EXPECT_EQ(PopulationDeviation(list, 0), 0.0);
+}
+
+TEST(SummaryStatistics, CountsWhoseSumIsOneHaveNoSampleDeviation) {
+  const DataList list = ListOf({{"2", "1"}, {"9", "0"}});
+  EXPECT_FALSE(std::isfinite(SampleDeviation(list, 0)));
+  EXPECT_EQ(PopulationDeviation(list, 0), 0.0);
+}
+
+TEST(SummaryStatistics, EmptyListDividesByZero) {
+  const DataList list(kOneVarColumns);
+  EXPECT_EQ(Sum(list, 0), 0.0);
+  EXPECT_TRUE(std::isnan(Mean(list, 0)));
+  EXPECT_TRUE(std::isnan(PopulationDeviation(list, 0)));
+}
+
+TEST(SummaryStatistics, RoundingBelowZeroIsNoNumber) {
+  const DataList list = ListOf({{"10000000.1", "3"}, {"10000000.1", "4"}});
+  const ColumnSums sums = SumColumn(list, 0);
+  const double mean = sums.values / 7.0;
+  const double rest = sums.squares - (7.0 * mean) * mean;
+  EXPECT_EQ(std::isnan(SampleDeviation(list, 0)), rest < 0.0);
+}
+
+TEST(SummaryStatistics, TwoVariables) {
+  const DataList list = ListOf({{"1", "10", "2"}, {"3", "-1", "1"}});
+  EXPECT_EQ(Sum(list, 0), 5.0);
+  EXPECT_EQ(Sum(list, 1), 19.0);
+  EXPECT_EQ(SumOfSquares(list, 1), 201.0);
+  EXPECT_EQ(SumOfProducts(list), 17.0);
+  const PairSums sums = SumPairs(list);
+  EXPECT_EQ(sums.x.values, 5.0);
+  EXPECT_EQ(sums.y.squares, 201.0);
+  EXPECT_EQ(sums.products, 17.0);
+}
+
+TEST(SummaryStatistics, SumsRunFromTheFirstRowToTheLast) {
+  // The other way round the small values would be kept.
+  const DataList list = ListOf({{"1e16", "1"}, {"1", "1"}, {"1", "1"}});
+  EXPECT_EQ(Sum(list, 0), (1e16 + 1.0) + 1.0);
+  EXPECT_NE(Sum(list, 0), (1.0 + 1.0) + 1e16);
+}
+
+}  // namespace
+}  // namespace vexa
