@@ -126,9 +126,12 @@ void UnitConverterDialogTest::EveryCategoryCanBeChosen() {
 
 void UnitConverterDialogTest::ConvertsAtEveryKeystroke() {
   screen.Open(kKilometersToMeters, L"7");
-  const std::pair<char, const char*> typed[] = {{'1', "1,000"},        {'2', "12,000"},
-                                                {'.', "12,000"},       {'5', "12,500"},
-                                                {'e', "12,500"},       {'3', "12,500,000"},
+  const std::pair<char, const char*> typed[] = {{'1', "1,000"},
+                                                {'2', "12,000"},
+                                                {'.', "12,000"},
+                                                {'5', "12,500"},
+                                                {'e', "12,500"},
+                                                {'3', "12,500,000"},
                                                 {'0', "1.250000000000e+034"}};
   screen.input->selectAll();
   for (const auto& [key, result] : typed) {

@@ -105,8 +105,9 @@ void UnitConverterKeysTest::TabFollowsTheLayout_data() {
                         QStringLiteral("Cancel"), QStringLiteral("MEM"),
                         QStringLiteral("Input value")};
   QTest::newRow("factors") << kLength
-                           << start + QStringList{QStringLiteral("Output value"),
-                                                  QStringLiteral("Output unit")} +
+                           << start +
+                                  QStringList{QStringLiteral("Output value"),
+                                              QStringLiteral("Output unit")} +
                                   end;
   QTest::newRow("single list") << kTemperature
                                << start + QStringList{QStringLiteral("Output block")} + end;

@@ -57,8 +57,10 @@ void UserConversionDialogTest::TheViewState_data() {
   const QString close = QStringLiteral("Close");
   const QStringList change{QStringLiteral("Edit"), QStringLiteral("Delete")};
   QTest::newRow("none") << 0 << QStringLiteral("List(0/60)") << QStringList{add, close};
-  QTest::newRow("one") << 1 << QStringLiteral("List(1/60)") << QStringList{add} + change + QStringList{close};
-  QTest::newRow("59") << 59 << QStringLiteral("List(59/60)") << QStringList{add} + change + QStringList{close};
+  QTest::newRow("one") << 1 << QStringLiteral("List(1/60)")
+                       << QStringList{add} + change + QStringList{close};
+  QTest::newRow("59") << 59 << QStringLiteral("List(59/60)")
+                      << QStringList{add} + change + QStringList{close};
   QTest::newRow("full") << 60 << QStringLiteral("List(60/60)") << change + QStringList{close};
 }
 
@@ -246,10 +248,10 @@ void UserConversionDialogTest::TabFollowsTheLayout() {
     reached += QApplication::focusWidget()->objectName();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
-  QCOMPARE(reached, (QStringList{QStringLiteral("Input unit name"),
-                                 QStringLiteral("Output unit name"), QStringLiteral("Rate"),
-                                 QStringLiteral("MEM"), QStringLiteral("Save"),
-                                 QStringLiteral("Cancel")}));
+  QCOMPARE(reached,
+           (QStringList{QStringLiteral("Input unit name"), QStringLiteral("Output unit name"),
+                        QStringLiteral("Rate"), QStringLiteral("MEM"), QStringLiteral("Save"),
+                        QStringLiteral("Cancel")}));
 }
 
 void UserConversionDialogTest::FitsTheSmallestScreen() {

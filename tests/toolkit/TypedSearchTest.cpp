@@ -20,10 +20,10 @@ TEST(TypedSearch, BeginningsBeforeLaterWords) {
     int current;
     int found;
   } cases[] = {
-      {L"fe", -1, 3},       {L"FE", 0, 3},        {L"are", 0, 0},        {L"area", 5, 0},
-      {L"01", 3, 0},        {L"year", 0, 5},      {L"us", 0, 6},         {L"dry (u", 0, 6},
-      {L"min", 0, 2},       {L"cubic fe", 0, 1},  {L"cubic fe", 2, 2},   {L"cubic feet/m", 1, 2},
-      {L"eet", 0, -1},      {L"zz", 3, -1},       {L"", 3, -1},          {L"\u00c5n", 0, 7},
+      {L"fe", -1, 3},          {L"FE", 0, 3},       {L"are", 0, 0},      {L"area", 5, 0},
+      {L"01", 3, 0},           {L"year", 0, 5},     {L"us", 0, 6},       {L"dry (u", 0, 6},
+      {L"min", 0, 2},          {L"cubic fe", 0, 1}, {L"cubic fe", 2, 2}, {L"cubic feet/m", 1, 2},
+      {L"eet", 0, -1},         {L"zz", 3, -1},      {L"", 3, -1},        {L"\u00c5n", 0, 7},
       {L"Kilometersx", 0, -1},
   };
   for (const auto& c : cases) {
