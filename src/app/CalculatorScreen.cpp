@@ -64,6 +64,8 @@ CalculatorScreen::CalculatorScreen(SettingsStore& settingsStore, QWidget* parent
 }
 
 CalculatorScreen::~CalculatorScreen() {
+  // The program may be ended while the converter is open: it hands back what it would on "Cancel".
+  for (auto* const dialog : findChildren<UnitConverterDialog*>()) dialog->reject();
   calculator.Save();
 }
 

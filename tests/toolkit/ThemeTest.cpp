@@ -48,6 +48,7 @@ class ThemeTest : public QObject {
   void FollowsTheWindowColour();
   void TextsCanBeRead();
   void RolesDiffer();
+  void TheConvertersButtonsKeepTheirColours();
   void WhatIsDisabledCanBeRead();
   void LightBlueIsTheSameInDark();
   void IndicatorsCanBeSeenInDark();
@@ -73,6 +74,20 @@ void ThemeTest::TextsCanBeRead() {
       QVERIFY2(Contrast(colours.text, colours.pressedFace) >= 4.5, name);
       QVERIFY2(Contrast(colours.disabledText, colours.face) >= 2, name);
     }
+  }
+}
+
+void ThemeTest::TheConvertersButtonsKeepTheirColours() {
+  for (const QColor& window : {kLightWindow, kDarkWindow}) {
+    const theme::KeyColours& pale = theme::ColoursOf(KeyRole::Pale, PaletteOf(window));
+    QCOMPARE(pale.face, QColor(222, 231, 255));
+    QVERIFY(Contrast(pale.text, pale.face) >= 4.5);
+    QVERIFY(Contrast(pale.text, pale.pressedFace) >= 4.5);
+    // Both colours are given; the bold text makes up for their contrast.
+    const theme::KeyColours& memory = theme::ColoursOf(KeyRole::Memory, PaletteOf(window));
+    QCOMPARE(memory.face, QColor(255, 128, 0));
+    QCOMPARE(memory.text, QColor(0, 0, 255));
+    QVERIFY(Contrast(memory.text, memory.face) >= 3);
   }
 }
 
