@@ -4,6 +4,7 @@
 
 #include "display/MemorySettingsStore.h"
 #include "display/SettingsLayout.h"
+#include "macros/MacroTable.h"
 
 namespace vexa {
 namespace {
@@ -136,6 +137,25 @@ TEST_F(PlotFunctionsTest, AddShowsTheEnginesSentence) {
     EXPECT_EQ(plotter.History().At(++recorded), text);
   }
   EXPECT_EQ(plotter.Count(), 0);
+}
+
+TEST_F(PlotFunctionsTest, FunctionsMayCallMacros) {
+  MacroTable(store).AddMacro(L"sq", L"TYPE1 : F(X)", L"x^2");
+  PlotFunctions plotter = Opened();
+  EXPECT_EQ(plotter.Add(L"M:sq( x )+1").sentence, L"");
+  EXPECT_EQ(plotter.At(0), L"M:sq(x)+1");
+  EXPECT_EQ(plotter.Add(L"M:sq(2)").sentence, L"Argument error : Missing variable X");
+  EXPECT_EQ(plotter.Add(L"M:cube(x)").sentence, L"Macro Name error");
+  GraphData graph;
+  EXPECT_EQ(plotter.Plot(L"", kTexts, {}, graph).sentence, L"");
+  EXPECT_EQ(graph.functions[0].label, L"R:F1(X)=M:sq(x)+1");
+  const std::size_t records = std::wstring_view(L"((x)^2)+1").size();
+  EXPECT_EQ(graph.functions[0].tokens.size(), records);
+  // The macro is gone when the function is plotted again.
+  MacroTable macros(store);
+  macros.LoadMacroTable();
+  macros.DeleteMacro(0);
+  EXPECT_EQ(Plot(plotter, L"").sentence, L"M:sq(... : Macro Name error");
 }
 
 TEST_F(PlotFunctionsTest, AddRefusesTheSameTextAgain) {
