@@ -54,9 +54,8 @@ CalculatorScreen::CalculatorScreen(SettingsStore& settingsStore, QWidget* parent
   resultLine->setMinimumHeight(kLeastResultHeight);
   Content()->addWidget(Line(), kEditShare);
   Content()->addWidget(resultLine, kResultShare);
-  Content()->addWidget(Keys(), kKeypadShare);
+  PlaceKeypad(kKeypadShare);
 
-  setTabOrder(Line(), resultLine);
   BuildFileMenu();
   BuildEditMenu(resultLine);
   SetDefaultButton(Keys()->Button(L"="));
