@@ -70,13 +70,6 @@ TEST(StatisticsKeypad, KeysOfEachModel) {
   }
 }
 
-TEST(StatisticsKeypad, ModelKeysAreKnown) {
-  int models = 0;
-  for (const Key& key : TwoVarKeys()) models += IsModelKey(key);
-  EXPECT_EQ(models, 6);
-  for (const Key& key : OneVarKeys()) EXPECT_FALSE(IsModelKey(key));
-}
-
 TEST(StatisticsKeypad, EntryKeysTakeEachOthersPlace) {
   EXPECT_EQ(CaptionsWhere(EntryKeys(), IsKeyShown, {}), (Captions{L"Add"}));
   EXPECT_EQ(CaptionsWhere(EntryKeys(), IsKeyShown, WhileEditing()), (Captions{L"Ok", L"Cancel"}));
