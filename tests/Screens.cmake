@@ -12,6 +12,18 @@ vexa_screen_test(keypad_test toolkit/KeypadTest.cpp)
 vexa_screen_test(result_line_test toolkit/ResultLineTest.cpp)
 vexa_screen_test(theme_test toolkit/ThemeTest.cpp)
 vexa_screen_test(calculator_screen_test app/CalculatorScreenTest.cpp)
+vexa_screen_test(keypad_on_screen_test app/KeypadOnScreenTest.cpp)
+vexa_screen_test(macro_editor_dialog_test macros/MacroEditorDialogTest.cpp)
+vexa_screen_test(macro_editor_save_test macros/MacroEditorSaveTest.cpp)
+vexa_screen_test(macro_key_test macros/MacroKeyTest.cpp)
+vexa_screen_test(memory_key_test macros/MemoryKeyTest.cpp)
+vexa_screen_test(display_formatting_dialog_test display/DisplayFormattingDialogTest.cpp)
+vexa_screen_test(end_to_end_test app/EndToEndTest.cpp)
+vexa_screen_test(touch_size_test toolkit/TouchSizeTest.cpp)
+# The same on the smallest screen.
+add_test(NAME touch_size_test.small_screen COMMAND touch_size_test)
+set_tests_properties(touch_size_test.small_screen PROPERTIES ENVIRONMENT
+  QT_QPA_PLATFORM=offscreen:configfile=${CMAKE_CURRENT_SOURCE_DIR}/support/SmallScreen.json)
 vexa_screen_test(main_frame_test app/MainFrameTest.cpp)
 vexa_screen_test(single_instance_test app/SingleInstanceTest.cpp)
 

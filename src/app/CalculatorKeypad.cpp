@@ -20,7 +20,7 @@ constexpr Key kOwnKeys[] = {
     {L"HEX",   Command,     0, 0, L"The number base; press to choose another", {}, OnlyIn(Hex)},
     {L"BIN",   Command,     0, 0, L"The number base; press to choose another", {}, OnlyIn(Bin)},
     {L"OCT",   Command,     0, 0, L"The number base; press to choose another", {}, OnlyIn(Oct)},
-    {L"BS",    Editing,     0, 1, L"Delete the character before the caret, or the selection", {}, kEverywhere, {}, 1, true},
+    {L"BS",    Editing,     0, 1, kBackspaceHelp, {}, kEverywhere, {}, 1, true},
     {L"E",     Digit,       1, 1, L"Hexadecimal digit E, 14", PlainKey(L"E"), kHexDigit},
     {L"F",     Digit,       1, 2, L"Hexadecimal digit F, 15", PlainKey(L"F"), kHexDigit},
     {L"AND",   Operator,    1, 5, L"Bitwise and", OperatorKey(L" AND ", L"(", L") AND "), kBitwise},

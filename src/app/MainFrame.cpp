@@ -11,9 +11,10 @@
 #include "app/WindowPlace.h"
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
+#include "plotter/PlotterScreen.h"
 #include "stats/OneVarScreen.h"
 #include "stats/TwoVarScreen.h"
-#include "toolkit/ComingScreen.h"
+#include "toolkit/ModeScreen.h"
 
 namespace vexa {
 namespace {
@@ -25,17 +26,13 @@ WindowPlace PlaceOf(const QRect& rect) {
 }
 
 /// How each mode's screen is made, in the order of kModes.
-template <Mode mode>
-ModeScreen* NewComingScreen(SettingsStore&, QWidget* parent) {
-  return new ComingScreen(mode, parent);
-}
 template <typename Screen>
 ModeScreen* NewScreen(SettingsStore& store, QWidget* parent) {
   return new Screen(store, parent);
 }
 constexpr std::array<ModeScreen* (*)(SettingsStore&, QWidget*), kModes.size()> kNewScreen{
     NewScreen<CalculatorScreen>,
-    NewComingScreen<Mode::FunctionPlotter>,
+    NewScreen<PlotterScreen>,
     NewScreen<OneVarScreen>,
     NewScreen<TwoVarScreen>,
 };

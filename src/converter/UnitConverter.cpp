@@ -1,5 +1,6 @@
 #include "converter/UnitConverter.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "converter/UnitConversion.h"
@@ -47,10 +48,10 @@ void UnitConverter::Open(const ConverterPositions& stored, double memoryValue,
   const bool usersOwn = known && CategoryOf(stored.category).kind == CategoryKind::UserDefined;
   if (!known || (usersOwn && userConversions.Count() == 0)) {
     LoadCategory(kFirstCategory);
-    return ShowFirstUnits();
+    return ShowUnits(0);
   }
   LoadCategory(stored.category);
-  if (usersOwn && userConversions.Count() <= stored.input) return ShowFirstUnits();
+  if (usersOwn && userConversions.Count() <= stored.input) return ShowUnits(0);
   selection.input = InList(stored.input, inputUnits);
   selection.output = InList(stored.output, outputUnits);
   Convert();
@@ -69,7 +70,7 @@ CategoryOutcome UnitConverter::ChangeCategory(int category) {
     return CategoryOutcome::NoUserConversions;
   }
   LoadCategory(category);
-  ShowFirstUnits();
+  ShowUnits(0);
   return CategoryOutcome::Shown;
 }
 
@@ -77,8 +78,11 @@ void UnitConverter::ReloadUserConversions() {
   userConversions.Load();
   if (!IsCategory(selection.category)) return;
   if (CategoryOf(selection.category).kind != CategoryKind::UserDefined) return;
+  const std::wstring chosen =
+      selection.input < 0 ? L"" : inputUnits[static_cast<std::size_t>(selection.input)];
   LoadCategory(userConversions.Count() == 0 ? kFirstCategory : selection.category);
-  ShowFirstUnits();
+  const auto same = std::ranges::find(inputUnits, chosen);
+  ShowUnits(same == inputUnits.end() ? 0 : static_cast<int>(same - inputUnits.begin()));
 }
 
 void UnitConverter::ChooseInput(int position) {
@@ -130,11 +134,13 @@ void UnitConverter::LoadCategory(int category) {
   positions.category = category;
 }
 
-void UnitConverter::ShowFirstUnits() {
-  selection.input = InList(0, inputUnits);
+/// Selects an entry of the input list and the first of the output list.
+void UnitConverter::ShowUnits(int input) {
+  selection.input = InList(input, inputUnits);
   selection.output = InList(0, outputUnits);
   // Even if the text is no number: a position of the previous category means nothing here.
-  positions.input = positions.output = 0;
+  positions.input = input;
+  positions.output = 0;
   Convert();
 }
 

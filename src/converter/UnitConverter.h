@@ -59,7 +59,8 @@ class UnitConverter {
   /// A new selection in the category list, -1 to 14: both unit lists start at their first entry.
   CategoryOutcome ChangeCategory(int category);
   /// Reads the user's conversions again after their editor has closed. Where their category is
-  /// chosen it is shown anew, or the first category when there is none to show.
+  /// chosen it is shown anew, with the same conversion selected if it still exists, or the first
+  /// category when there is none to show.
   void ReloadUserConversions();
 
   /// A new selection in the input list.
@@ -109,7 +110,7 @@ class UnitConverter {
 
  private:
   void LoadCategory(int category);
-  void ShowFirstUnits();
+  void ShowUnits(int input);
   bool HasSelection() const;
   void Convert();
   void ConvertUnits(double value);

@@ -1,11 +1,10 @@
 #include "converter/UnitConverterDialog.h"
 
-#include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -14,9 +13,11 @@
 #include "macros/MemoryMenu.h"
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/KeyButton.h"
+#include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/Keypad.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/PopupMenu.h"
+#include "toolkit/ResultLine.h"
 #include "toolkit/Theme.h"
 #include "toolkit/TouchComboBox.h"
 #include "toolkit/TouchSize.h"
@@ -30,20 +31,45 @@ constexpr Key kButtons[] = {
     {L"MEM", KeyRole::Memory, 0, 2, L"Memory: add, subtract, recall, clear, variables"},
 };
 
-constexpr int kOpeningHeight = 430;
-constexpr int kButtonHeight = 36;
-/// Three rows of text.
-constexpr int kOutputHeight = 76;
+constexpr int kOpeningHeight = 400;
+/// Closer than other dialogs: everything has room on the smallest screen.
+constexpr int kMargin = 4;
+constexpr int kGap = 4;
+constexpr int kButtonHeight = kTouchHeight;
+/// Room for three rows that can be read.
+constexpr int kLeastOutputHeight = 48;
+/// The text of the input stands out, and twenty digits have room on the smallest screen.
+constexpr int kInputText = 16;
 
 void SetNames(QWidget* control, const QString& name) {
   control->setObjectName(name);
   control->setAccessibleName(name);
 }
 
+QLabel* NewCaption(const QString& text, QWidget* parent) {
+  auto* const caption = new QLabel(text, parent);
+  QFont bold = caption->font();
+  bold.setBold(true);
+  caption->setFont(bold);
+  return caption;
+}
+
+/// A group of controls from top to bottom under `heading`.
+QVBoxLayout* AddGroup(QVBoxLayout* content, const QString& name, QLayout* heading, int stretch) {
+  auto* const group = new QWidget(content->parentWidget());
+  SetNames(group, name);
+  auto* const column = new QVBoxLayout(group);
+  column->setContentsMargins(0, kGap, 0, 0);
+  column->setSpacing(kGap);
+  column->addLayout(heading);
+  content->addWidget(group, stretch);
+  return column;
+}
+
 void Fill(TouchComboBox* list, const std::vector<std::wstring>& entries, int selected) {
   const QSignalBlocker blocker(list);
   list->clear();
-  for (const std::wstring& entry : entries) list->AddLine(FromWide(entry));
+  for (const std::wstring& entry : entries) list->addItem(FromWide(entry));
   list->setCurrentIndex(selected);
 }
 
@@ -60,16 +86,18 @@ UnitConverterDialog::UnitConverterDialog(SettingsStore& settingsStore,
       input(new QLineEdit(this)),
       notice(new QLabel(this)),
       inputUnit(new TouchComboBox(this)),
-      outputLine(new QLineEdit(this)),
-      outputBlock(new QPlainTextEdit(this)),
+      outputLine(new ResultLine(this)),
+      outputBlock(new ResultLine(this)),
       outputUnit(new TouchComboBox(this)) {
   converter.Open(positions, memory, inputText);
+  Content()->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  Content()->setSpacing(kGap);
   BuildMenus();
   BuildCategory();
+  BuildButtons();
   BuildInput();
   BuildOutput();
-  Content()->addStretch(1);
-  resize(width(), kOpeningHeight);
+  SetOpeningHeight(kOpeningHeight);
   Refresh();
   input->selectAll();
   input->setFocus();
@@ -82,58 +110,71 @@ void UnitConverterDialog::BuildMenus() {
       ->addAction(QStringLiteral("Edit &Unit Convert"), this,
                   &UnitConverterDialog::EditConversions);
   QMenu* const edit = menuBar->addMenu(QStringLiteral("&Edit"));
-  edit->addAction(QStringLiteral("Cu&t"), input, &QLineEdit::cut);
-  edit->addAction(QStringLiteral("&Copy"), input, &QLineEdit::copy);
-  edit->addAction(QStringLiteral("&Paste"), input, &QLineEdit::paste);
+  edit->addAction(QStringLiteral("Cu&t"), input, &QLineEdit::cut)->setShortcuts(QKeySequence::Cut);
+  edit->addAction(QStringLiteral("&Copy"), input, &QLineEdit::copy)
+      ->setShortcuts(QKeySequence::Copy);
+  edit->addAction(QStringLiteral("&Paste"), input, &QLineEdit::paste)
+      ->setShortcuts(QKeySequence::Paste);
+  // Beside the menus, where it takes no row of its own.
+  QLabel* const title = NewCaption(QStringLiteral("Unit Converter"), menuBar);
+  title->setBuddy(category);
+  title->setContentsMargins(0, 0, 2 * kMargin, 0);
+  title->setMinimumHeight(kTouchHeight);
+  menuBar->setCornerWidget(title);
 }
 
 void UnitConverterDialog::BuildCategory() {
-  for (const UnitCategory& entry : kUnitCategories) category->AddLine(FromWide(entry.name));
-  AddField(L"Unit Converter", category);
+  SetNames(category, QStringLiteral("Unit Converter"));
+  for (const UnitCategory& entry : kUnitCategories) category->addItem(FromWide(entry.name));
+  category->setMaxVisibleItems(kCategoryCount);
+  Content()->addWidget(category);
+  connect(category, &QComboBox::currentIndexChanged, this, &UnitConverterDialog::ChangeCategory);
+}
+
+void UnitConverterDialog::BuildButtons() {
   buttons->setFixedHeight(kButtonHeight);
   buttons->Refresh([](const Key&) { return true; }, [](const Key&) { return true; });
   SetDefault(buttons->Button(L"OK"));
   Content()->addWidget(buttons);
   connect(buttons, &Keypad::KeyPressed, this, &UnitConverterDialog::PressKey);
-  connect(category, &QComboBox::currentIndexChanged, this, &UnitConverterDialog::ChangeCategory);
 }
 
 void UnitConverterDialog::BuildInput() {
-  auto* const group = new QGroupBox(QStringLiteral("Input"), this);
-  auto* const column = new QVBoxLayout(group);
-  input->setMinimumHeight(kTouchHeight);
   SetNames(input, QStringLiteral("Input value"));
   SetNames(notice, QStringLiteral("Input notice"));
   SetNames(inputUnit, QStringLiteral("Input unit"));
-  // Keeps its place while it says nothing.
-  notice->setMinimumHeight(notice->fontMetrics().height());
+  QFont large = input->font();
+  large.setPixelSize(kInputText);
+  input->setFont(large);
+  input->setAlignment(Qt::AlignRight);
+  input->setMinimumHeight(kTouchHeight);
+  new KeyboardOnFocus(input);
   theme::ShowAsNotice(notice);
+  notice->setAlignment(Qt::AlignRight);
+  // In the heading's row, so that nothing moves and no gap waits for it.
+  auto* const heading = new QHBoxLayout;
+  heading->addWidget(NewCaption(QStringLiteral("Input"), this));
+  heading->addWidget(notice, 1);
+  QVBoxLayout* const column = AddGroup(Content(), QStringLiteral("Input"), heading, 0);
   column->addWidget(input);
-  column->addWidget(notice);
   column->addWidget(inputUnit);
-  Content()->addWidget(group);
   connect(input, &QLineEdit::textChanged, this, &UnitConverterDialog::EnterText);
   connect(inputUnit, &QComboBox::currentIndexChanged, this, &UnitConverterDialog::ChooseInput);
 }
 
 void UnitConverterDialog::BuildOutput() {
-  auto* const group = new QGroupBox(QStringLiteral("Output"), this);
-  auto* const column = new QVBoxLayout(group);
   SetNames(outputLine, QStringLiteral("Output value"));
-  SetNames(outputBlock, QStringLiteral("Output"));
+  SetNames(outputBlock, QStringLiteral("Output block"));
   SetNames(outputUnit, QStringLiteral("Output unit"));
-  outputLine->setMinimumHeight(kTouchHeight);
-  outputLine->setReadOnly(true);
-  outputBlock->setFixedHeight(kOutputHeight);
-  outputBlock->setReadOnly(true);
-  outputBlock->setTabChangesFocus(true);
-  for (QWidget* const shown : {static_cast<QWidget*>(outputLine),
-                               static_cast<QWidget*>(outputBlock)}) {
+  auto* const heading = new QHBoxLayout;
+  heading->addWidget(NewCaption(QStringLiteral("Output"), this));
+  QVBoxLayout* const column = AddGroup(Content(), QStringLiteral("Output"), heading, 1);
+  for (ResultLine* const shown : {outputLine, outputBlock}) {
+    shown->setMinimumHeight(kLeastOutputHeight);
     theme::ShowOnAmber(shown);
-    column->addWidget(shown);
+    column->addWidget(shown, 1);
   }
   column->addWidget(outputUnit);
-  Content()->addWidget(group);
   connect(outputUnit, &QComboBox::currentIndexChanged, this, &UnitConverterDialog::ChooseOutput);
 }
 
@@ -154,9 +195,8 @@ void UnitConverterDialog::Refresh() {
 
 void UnitConverterDialog::ShowOutput() {
   notice->setText(FromWide(converter.InputNotice()));
-  outputLine->setText(FromWide(converter.OutputLine()));
-  outputLine->setCursorPosition(0);
-  outputBlock->setPlainText(FromWide(converter.OutputBlock()));
+  outputLine->ShowText(FromWide(converter.OutputLine()));
+  outputBlock->ShowText(FromWide(converter.OutputBlock()));
 }
 
 void UnitConverterDialog::PressKey(int index) {

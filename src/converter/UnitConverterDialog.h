@@ -7,11 +7,11 @@
 
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 
 namespace vexa {
 
 class Keypad;
+class ResultLine;
 class TouchComboBox;
 
 /// Converts units. UnitConverter decides; after the dialog has closed, however, its positions and
@@ -31,6 +31,7 @@ class UnitConverterDialog : public Dialog {
  private:
   void BuildMenus();
   void BuildCategory();
+  void BuildButtons();
   void BuildInput();
   void BuildOutput();
   /// Shows what the converter says, without converting again.
@@ -56,8 +57,8 @@ class UnitConverterDialog : public Dialog {
   QLineEdit* input;
   QLabel* notice;
   TouchComboBox* inputUnit;
-  QLineEdit* outputLine;
-  QPlainTextEdit* outputBlock;
+  ResultLine* outputLine;
+  ResultLine* outputBlock;
   TouchComboBox* outputUnit;
 };
 

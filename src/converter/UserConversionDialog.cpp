@@ -8,6 +8,7 @@
 
 #include "display/WideText.h"
 #include "macros/MemoryVariableDialog.h"
+#include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/TouchSize.h"
 
@@ -27,10 +28,8 @@ UserConversionDialog::UserConversionDialog(SettingsStore& settingsStore, QWidget
       rate(new QLineEdit(this)) {
   BuildFields();
   BuildList({firstName, secondName, rate});
-  resize(width(), kOpeningHeight);
-  ShowConversions();
-  Refresh();
-  FocusList();
+  SetOpeningHeight(kOpeningHeight);
+  ShowViewState();
 }
 
 void UserConversionDialog::BuildFields() {
@@ -46,17 +45,22 @@ void UserConversionDialog::BuildFields() {
     box->setAccessibleName(name);
     box->setPlaceholderText(name);
   }
-  AddField(L"Rate", rate);
-  for (QLineEdit* const box : {firstName, secondName, rate}) box->setMinimumHeight(kTouchHeight);
+  AddFieldRow(L"Rate", rate);
+  for (QLineEdit* const box : {firstName, secondName, rate}) {
+    box->setMinimumHeight(kTouchHeight);
+    new KeyboardOnFocus(box);
+  }
 }
 
-void UserConversionDialog::ShowConversions() {
+void UserConversionDialog::ShowViewState() {
   std::vector<std::wstring> lines;
   lines.reserve(static_cast<std::size_t>(editor.Conversions().Count()));
   for (int i = 0; i < editor.Conversions().Count(); ++i) {
     lines.push_back(editor.Conversions().At(i).name);
   }
   ShowLines(lines, editor.Selected());
+  Refresh();
+  FocusList();
 }
 
 void UserConversionDialog::Refresh() {
@@ -90,38 +94,33 @@ void UserConversionDialog::Edit() {
 }
 
 void UserConversionDialog::Save() {
-  const SaveOutcome outcome = editor.Save({firstName->text().toStdWString(),
-                                           secondName->text().toStdWString(),
-                                           rate->text().toStdWString()});
+  const SaveOutcome outcome =
+      editor.Save({firstName->text().toStdWString(), secondName->text().toStdWString(),
+                   rate->text().toStdWString()});
   if (!outcome.sentence.empty()) {
     ShowErrorBox(this, outcome.sentence, [this, box = outcome.focus] { Focus(box); });
     return;
   }
-  ShowConversions();
-  Refresh();
-  FocusList();
+  ShowViewState();
 }
 
 void UserConversionDialog::Cancel() {
   editor.Cancel();
-  Refresh();
-  FocusList();
+  ShowViewState();
 }
 
 void UserConversionDialog::Delete() {
   if (editor.Selected() < 0) return;
   AskYesNo(this, std::wstring(kDeleteConversionQuestion), [this] {
     editor.Delete();
-    ShowConversions();
-    Refresh();
+    ShowViewState();
   });
 }
 
 void UserConversionDialog::RecallVariable() {
   auto* const dialog = new MemoryVariableDialog(store, this);
-  connect(dialog, &MemoryVariableDialog::Recalled, this, [this](int index) {
-    rate->setText(FromWide(MemoryVariables(store).Text(index)));
-  });
+  connect(dialog, &MemoryVariableDialog::Recalled, this,
+          [this](int index) { rate->setText(FromWide(MemoryVariables(store).Text(index))); });
   connect(dialog, &QDialog::finished, rate, qOverload<>(&QWidget::setFocus));
   dialog->open();
 }

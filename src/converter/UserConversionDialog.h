@@ -16,8 +16,10 @@ class UserConversionDialog : public ListEditorDialog {
 
  private:
   void BuildFields();
+  /// Shows what the editor says of boxes and buttons.
   void Refresh();
-  void ShowConversions();
+  /// Shows the list too, which gets the focus.
+  void ShowViewState();
   void Focus(ConversionBox box);
 
   void New() override;

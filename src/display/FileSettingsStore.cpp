@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileDevice>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSettings>
@@ -44,8 +45,14 @@ bool WriteIniFile(QIODevice& device, const QSettings::SettingsMap& map) {
             item.key().mid(slash + 1).toStdWString()}] = item.value().toString().toStdWString();
   }
   const std::string bytes = FormatIni(values);
-  return device.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-         static_cast<qint64>(bytes.size());
+  if (device.write(bytes.data(), static_cast<qint64>(bytes.size())) !=
+      static_cast<qint64>(bytes.size())) {
+    return false;
+  }
+  // A full disk shows only when the buffer is emptied; unseen, half a file would replace the old
+  // one.
+  auto* file = qobject_cast<QFileDevice*>(&device);
+  return !file || file->flush();
 }
 
 /// INI with this program's own reader. The toolkit's one rebuilds any serialized object that a file

@@ -15,15 +15,19 @@ struct Colour {
   bool operator==(const Colour&) const = default;
 };
 
-/// What a graph is drawn on. Places are pixels of the graph view, whatever the resolution.
+/// What a graph is drawn on. Places are pixels of the graph view, whatever the resolution; a canvas
+/// finer than these pixels may use a curve's exact rows.
 class Canvas {
  public:
   virtual ~Canvas() = default;
 
   virtual void Fill(const PixelBox& box, Colour colour) = 0;
-  /// A line one pixel wide; it draws its first pixel and not its last.
+  /// A line along a row or a column, one pixel wide; it draws its first pixel and not its last.
   virtual void Line(PixelPoint from, PixelPoint to, Colour colour) = 0;
-  virtual void Pixel(PixelPoint point, Colour colour) = 0;
+  /// A point of a curve.
+  virtual void Dot(const CurvePoint& point, Colour colour) = 0;
+  /// The line between two points of a curve, with its first pixel and without its last.
+  virtual void Segment(const CurvePoint& from, const CurvePoint& to, Colour colour) = 0;
   /// A filled circle that touches the sides of `box`.
   virtual void Circle(const PixelBox& box, Colour colour) = 0;
   /// `text` in the view's font, right of and below `corner`.

@@ -1,5 +1,6 @@
 #include "plotter/DrawGraph.h"
 
+#include "plotter/GraphColours.h"
 #include "plotter/PlotArea.h"
 
 namespace vexa {
@@ -12,7 +13,6 @@ constexpr Colour kBlack{0, 0, 0};
 constexpr Colour kGridColour{192, 192, 192};
 constexpr Colour kAxisColour{0, 130, 132};
 constexpr Colour kDataColour{0, 0, 255};
-constexpr Colour kCurveColours[kMaxGraphFunctions] = {{255, 0, 0}, {0, 255, 0}, {0, 0, 255}};
 
 /// Cells of the grid in each direction.
 constexpr int kGridCells = 10;
@@ -71,9 +71,9 @@ void DrawDataPoints(const SampledGraph& samples, Canvas& canvas) {
 
 void DrawCurve(const SampledCurve& curve, bool line, Colour colour, Canvas& canvas) {
   for (std::size_t i = 0; i < curve.size(); ++i) {
-    if (IsEmpty(curve[i])) continue;
-    canvas.Pixel(curve[i], colour);
-    if (line && i > 0 && !IsEmpty(curve[i - 1])) canvas.Line(curve[i - 1], curve[i], colour);
+    if (curve[i].IsEmpty()) continue;
+    canvas.Dot(curve[i], colour);
+    if (line && i > 0 && !curve[i - 1].IsEmpty()) canvas.Segment(curve[i - 1], curve[i], colour);
   }
 }
 

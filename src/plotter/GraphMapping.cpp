@@ -18,8 +18,8 @@ std::optional<int> PixelWithin(double position, int low, int high) {
 
 }  // namespace
 
-double RowOf(double y, const PlotRanges& ranges) {
-  return std::trunc(kBottom - (kHeight / (ranges.yMax - ranges.yMin)) * (y - ranges.yMin));
+double ExactRow(double y, const PlotRanges& ranges) {
+  return kBottom - (kHeight / (ranges.yMax - ranges.yMin)) * (y - ranges.yMin);
 }
 
 std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ranges) {
@@ -27,14 +27,14 @@ std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ra
       std::trunc((kWidth / (ranges.xMax - ranges.xMin)) * (point.x - ranges.xMin) + kLeft);
   const std::optional<int> column = PixelWithin(position, kLeft, kRight);
   if (!column) return std::nullopt;
-  const std::optional<int> row = PixelWithin(RowOf(point.y, ranges), kTop, kBottom);
+  const std::optional<int> row = PixelWithin(std::trunc(ExactRow(point.y, ranges)), kTop, kBottom);
   if (!row) return std::nullopt;
   return PixelPoint{*column, *row};
 }
 
 int AxisRow(const PlotRanges& ranges) {
   if (!(ranges.yMax > 0.0 && ranges.yMin < 0.0)) return 0;
-  return PixelWithin(RowOf(0.0, ranges), kTop, kBottom).value_or(0);
+  return PixelWithin(std::trunc(ExactRow(0.0, ranges)), kTop, kBottom).value_or(0);
 }
 
 int AxisColumn(const PlotRanges& ranges) {

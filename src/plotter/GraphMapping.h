@@ -10,8 +10,8 @@
 /// their operations stand in this order.
 namespace vexa::graph_mapping {
 
-/// The row of the value `y`, truncated toward zero; any double, also one that is no number.
-double RowOf(double y, const PlotRanges& ranges);
+/// The row of the value `y`, not truncated yet; any double, also one that is no number.
+double ExactRow(double y, const PlotRanges& ranges);
 
 /// The pixel of a data point; none when it lies outside of the plot area.
 std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ranges);

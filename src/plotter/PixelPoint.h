@@ -10,6 +10,15 @@ struct PixelPoint {
   bool operator==(const PixelPoint&) const = default;
 };
 
+/// A sampled point of a curve: its pixel, and the exact row, of which the pixel's is the integer
+/// part. A point whose pixel has row 0 is empty.
+struct CurvePoint {
+  PixelPoint pixel;
+  double row = 0.0;
+
+  constexpr bool IsEmpty() const { return pixel.y == 0; }
+};
+
 /// The pixels from column `left` to `right` - 1 and from row `top` to `bottom` - 1.
 struct PixelBox {
   int left = 0;

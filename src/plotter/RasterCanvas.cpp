@@ -55,8 +55,12 @@ void RasterCanvas::Line(PixelPoint from, PixelPoint to, Colour colour) {
   }
 }
 
-void RasterCanvas::Pixel(PixelPoint point, Colour colour) {
-  Set(point.x, point.y, NearestEntry(colour));
+void RasterCanvas::Dot(const CurvePoint& point, Colour colour) {
+  Set(point.pixel.x, point.pixel.y, NearestEntry(colour));
+}
+
+void RasterCanvas::Segment(const CurvePoint& from, const CurvePoint& to, Colour colour) {
+  Line(from.pixel, to.pixel, colour);
 }
 
 void RasterCanvas::Circle(const PixelBox& box, Colour colour) {

@@ -1,6 +1,7 @@
 #include "plotter/SampleGraph.h"
 
 #include <bitset>
+#include <cmath>
 
 #include "engine/CalcEngine.h"
 #include "plotter/GraphMapping.h"
@@ -34,31 +35,34 @@ class Sampler {
  private:
   /// Stores the point of sample `i`, whose value `engine` holds, and the edge points.
   void Place(std::size_t i, bool previousFailed) {
-    const double row = graph_mapping::RowOf(engine.result, ranges);
+    const double exactRow = graph_mapping::ExactRow(engine.result, ranges);
+    const double row = std::trunc(exactRow);
     if (row >= kTop && row <= kBottom) {
-      Store(i, static_cast<int>(row));
-      if (i > 0 && IsEmpty(curve[i - 1]) && !previousFailed) StoreEntry(i);
+      Store(i, static_cast<int>(row), exactRow);
+      if (i > 0 && curve[i - 1].IsEmpty() && !previousFailed) StoreEntry(i);
       previousInside = true;
       return;
     }
-    if (i > 0 && !IsEmpty(curve[i - 1]) && previousInside) StoreExit(i, row);
+    if (i > 0 && !curve[i - 1].IsEmpty() && previousInside) StoreExit(i, row);
     previousInside = false;
   }
 
   /// The curve comes back into the area at `i`: it starts at the edge, one column before. A curve
   /// that comes in on the middle row has no such point.
   void StoreEntry(std::size_t i) {
-    if (curve[i].y < kMiddleRow) Store(i - 1, kTop);
-    if (curve[i].y > kMiddleRow) Store(i - 1, kBottom);
+    if (curve[i].pixel.y < kMiddleRow) Store(i - 1, kTop, kTop);
+    if (curve[i].pixel.y > kMiddleRow) Store(i - 1, kBottom, kBottom);
   }
 
   /// The curve leaves the area at `i`: it ends at the edge. A row that is no number has none.
   void StoreExit(std::size_t i, double row) {
-    if (row < kTop) Store(i, kTop);
-    if (row > kBottom) Store(i, kBottom);
+    if (row < kTop) Store(i, kTop, kTop);
+    if (row > kBottom) Store(i, kBottom, kBottom);
   }
 
-  void Store(std::size_t i, int row) { curve[i] = {kLeft + static_cast<int>(i), row}; }
+  void Store(std::size_t i, int row, double exactRow) {
+    curve[i] = {{kLeft + static_cast<int>(i), row}, exactRow};
+  }
 
   PlotRanges ranges;
   CalcEngine engine;

@@ -12,12 +12,8 @@ namespace vexa {
 /// Samples of a function: one for each column of the plot area.
 inline constexpr std::size_t kSampleCount = plot_area::kWidth;
 
-/// A function's sampled points as pixels; a point whose y is 0 is empty.
-using SampledCurve = std::array<PixelPoint, kSampleCount>;
-
-constexpr bool IsEmpty(PixelPoint point) {
-  return point.y == 0;
-}
+/// A function's sampled points.
+using SampledCurve = std::array<CurvePoint, kSampleCount>;
 
 /// A graph's pixels, ready for being drawn.
 struct SampledGraph {

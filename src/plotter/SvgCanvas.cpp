@@ -1,5 +1,7 @@
 #include "plotter/SvgCanvas.h"
 
+#include <array>
+#include <charconv>
 #include <initializer_list>
 #include <string_view>
 
@@ -25,9 +27,15 @@ std::string Number(int value) {
   return std::to_string(value);
 }
 
-/// The middle of a pixel.
-std::string Middle(int value) {
-  return Join({Number(value), ".5"});
+/// The middle of a curve's point, its row to a hundredth.
+std::string Place(const CurvePoint& point) {
+  constexpr double kHalf = 0.5;
+  constexpr int kDecimals = 2;
+  std::array<char, 16> row{};
+  const auto end = std::to_chars(row.data(), row.data() + row.size(), point.row + kHalf,
+                                 std::chars_format::fixed, kDecimals)
+                       .ptr;
+  return Join({Number(point.pixel.x), ".5 ", {row.data(), end}});
 }
 
 /// Half of `doubled`, which is at least 0, exactly.
@@ -111,19 +119,15 @@ void SvgCanvas::Fill(const PixelBox& box, Colour colour) {
 }
 
 void SvgCanvas::Line(PixelPoint from, PixelPoint to, Colour colour) {
-  if (IsStraight(from, to)) {
-    // From the middle of the first to the middle of the last pixel that is drawn; the round ends
-    // are what is left of these pixels.
-    const PixelBox box = BoxOfStraight(from, to);
-    from = {box.left, box.top};
-    to = {box.right - 1, box.bottom - 1};
-  }
-  AddToPath(Join({"M", Middle(from.x), " ", Middle(from.y), "L", Middle(to.x), " ", Middle(to.y)}),
-            colour);
+  Fill(BoxOfLine(from, to), colour);
 }
 
-void SvgCanvas::Pixel(PixelPoint point, Colour colour) {
-  AddToPath(Join({"M", Middle(point.x), " ", Middle(point.y), "h0"}), colour);
+void SvgCanvas::Dot(const CurvePoint& point, Colour colour) {
+  AddToPath(Join({"M", Place(point), "h0"}), colour);
+}
+
+void SvgCanvas::Segment(const CurvePoint& from, const CurvePoint& to, Colour colour) {
+  AddToPath(Join({"M", Place(from), "L", Place(to)}), colour);
 }
 
 void SvgCanvas::Circle(const PixelBox& box, Colour colour) {

@@ -17,7 +17,8 @@ class SvgCanvas : public Canvas {
 
   void Fill(const PixelBox& box, Colour colour) override;
   void Line(PixelPoint from, PixelPoint to, Colour colour) override;
-  void Pixel(PixelPoint point, Colour colour) override;
+  void Dot(const CurvePoint& point, Colour colour) override;
+  void Segment(const CurvePoint& from, const CurvePoint& to, Colour colour) override;
   void Circle(const PixelBox& box, Colour colour) override;
   void Text(PixelPoint corner, std::wstring_view text, Colour colour) override;
 

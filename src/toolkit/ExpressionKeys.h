@@ -29,6 +29,9 @@ inline constexpr KeyPlaces kOctalDigit{kAllBases, kAllBases,
 inline constexpr KeyPlaces kDecimalDigit{kAllBases, kAllBases,
                                          Bases({BaseType::Dec, BaseType::Hex})};
 
+inline constexpr std::wstring_view kBackspaceHelp =
+    L"Delete the character before the caret, or the selection";
+
 // clang-format off
 inline constexpr Key kKeys[] = {
     // caption, role, row, column, help, what it inserts, where it is shown and enabled, face

@@ -75,6 +75,8 @@ QFont KeyButton::FaceFont() const {
   const qreal clamped = std::clamp(size, kSmallestText, kLargestText);
   QFont face = font();
   face.setPixelSize(qRound(clamped));
+  // Blue on orange, which is given, needs heavier strokes to be read at a glance.
+  face.setBold(key.role == KeyRole::Memory);
   const qreal textWidth = face_text::Width(FaceText(key), face);
   const qreal room = width() * kRoomShareOfWidth;
   if (textWidth > room) {

@@ -6,15 +6,26 @@
 #include <utility>
 
 #include "display/WideText.h"
+#include "toolkit/Theme.h"
 #include "toolkit/TouchList.h"
+#include "toolkit/TouchSize.h"
 
 namespace vexa {
+namespace {
+
+/// One line can be seen whole.
+constexpr int kLeastListHeight = kTouchHeight + 8;
+
+}  // namespace
 
 void ListEditorDialog::BuildList(std::vector<QWidget*> editedFields) {
   fields = std::move(editedFields);
   list = new TouchList(this);
+  list->setMinimumHeight(kLeastListHeight);
   listLabel = AddField(L"List", list, 1);
-  connect(list, &QListWidget::currentRowChanged, this, &ListEditorDialog::Select);
+  for (QWidget* const field : fields) theme::KeepReadable(field);
+  theme::KeepReadable(list);
+  connect(list, &QListWidget::itemSelectionChanged, this, [this] { Select(list->SelectedRow()); });
   QHBoxLayout* const row = AddButtonRow();
   newButton = AddButton(row, L"New", this, &ListEditorDialog::New);
   editButton = AddButton(row, L"Edit", this, &ListEditorDialog::Edit);
@@ -29,7 +40,7 @@ void ListEditorDialog::ShowLines(const std::vector<std::wstring>& lines, int sel
   const QSignalBlocker blocker(list);
   list->clear();
   for (const std::wstring& line : lines) list->AddLine(FromWide(line));
-  list->setCurrentRow(selected);
+  list->SelectRow(selected);
 }
 
 void ListEditorDialog::ShowView(const ListEditorView& view) {
@@ -37,17 +48,24 @@ void ListEditorDialog::ShowView(const ListEditorView& view) {
   listLabel->setText(FromWide(view.listLabel));
   list->setEnabled(view.listEnabled);
   for (QWidget* const field : fields) field->setEnabled(view.fieldsEnabled);
-  newButton->setVisible(view.newShown);
-  editButton->setVisible(view.editShown);
-  deleteButton->setVisible(view.deleteShown);
-  closeButton->setVisible(view.closeShown);
-  memoryButton->setVisible(view.memoryShown);
-  saveButton->setVisible(view.saveShown);
-  cancelButton->setVisible(view.cancelShown);
+  const std::pair<QPushButton*, bool> buttons[] = {
+      {newButton, view.newShown},       {editButton, view.editShown},
+      {deleteButton, view.deleteShown}, {closeButton, view.closeShown},
+      {memoryButton, view.memoryShown}, {saveButton, view.saveShown},
+      {cancelButton, view.cancelShown},
+  };
+  // First those that go: all of them side by side would widen the window.
+  for (const bool shown : {false, true}) {
+    for (const auto& [button, isShown] : buttons) {
+      if (isShown == shown) button->setVisible(shown);
+    }
+  }
   SetDefault(editing ? saveButton : closeButton);
 }
 
-void ListEditorDialog::FocusList() { list->setFocus(); }
+void ListEditorDialog::FocusList() {
+  list->setFocus();
+}
 
 void ListEditorDialog::reject() {
   if (editing) return Cancel();

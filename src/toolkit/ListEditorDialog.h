@@ -36,6 +36,7 @@ class ListEditorDialog : public Dialog {
   virtual void Save() = 0;
   virtual void Cancel() = 0;
   virtual void RecallVariable() = 0;
+  /// Line `index` of the list was selected; -1: none is.
   virtual void Select(int index) = 0;
 
  private:

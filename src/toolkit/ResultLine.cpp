@@ -7,7 +7,8 @@
 namespace vexa {
 namespace {
 
-/// Text sizes in pixels. A single row is preferred while it stays readable at a glance.
+/// Text sizes in pixels. A single row for each line is preferred while it stays readable at a
+/// glance.
 constexpr int kLargestText = 28;
 constexpr int kSmallestSingleRow = 13;
 constexpr int kSmallestText = 6;
@@ -47,7 +48,9 @@ void ResultLine::resizeEvent(QResizeEvent* event) {
 ResultLine::Extent ResultLine::Measure(int pixelSize, qreal width) const {
   QFont sized = font();
   sized.setPixelSize(pixelSize);
-  QTextLayout layout(toPlainText(), sized);
+  QString lines = toPlainText();
+  lines.replace(u'\n', QChar::LineSeparator);
+  QTextLayout layout(lines, sized);
   layout.setTextOption(document()->defaultTextOption());
   Extent extent{0, 0};
   layout.beginLayout();
@@ -69,7 +72,7 @@ void ResultLine::FitText() {
 
   int size = kLargestText;
   Extent extent = Measure(size, width);
-  while (size > kSmallestSingleRow && (extent.rows > 1 || extent.height > height)) {
+  while (size > kSmallestSingleRow && (extent.rows > blockCount() || extent.height > height)) {
     extent = Measure(--size, width);
   }
   while (size > kSmallestText && extent.height > height) extent = Measure(--size, width);

@@ -4,8 +4,9 @@
 
 namespace vexa {
 
-/// A right-aligned text for reading: selectable, can be copied, and always shown whole, in the
-/// largest size that has room, over several rows where a row is too short.
+/// A right-aligned text of one or more lines for reading: selectable, can be copied, and always
+/// shown whole, in the largest size that has room, a line over several rows where a row is too
+/// short.
 class ResultLine : public QPlainTextEdit {
   Q_OBJECT
 

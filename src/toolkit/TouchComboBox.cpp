@@ -1,19 +1,55 @@
 #include "toolkit/TouchComboBox.h"
 
+#include <QKeyEvent>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+#include "toolkit/SearchedList.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
+namespace {
 
-TouchComboBox::TouchComboBox(QWidget* parent) : QComboBox(parent) {
+/// The style's own room around the text.
+constexpr int kTextMargin = 4;
+
+}  // namespace
+
+TouchComboBox::TouchComboBox(QWidget* parent) : QComboBox(parent), list(new SearchedList(this)) {
+  setView(list);
   setMinimumHeight(kTouchHeight);
   // Long entries never make a dialog wider than a small screen.
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(1);
 }
 
-void TouchComboBox::AddLine(const QString& text) {
-  addItem(text);
-  setItemData(count() - 1, QSize(0, kTouchHeight), Qt::SizeHintRole);
+void TouchComboBox::keyPressEvent(QKeyEvent* event) {
+  // A blank opens the list, unless it stands between the words that are searched.
+  if (event->key() == Qt::Key_Space && list->IsSearching()) {
+    list->setCurrentIndex(model()->index(currentIndex(), modelColumn()));
+    list->keyboardSearch(event->text());
+    setCurrentIndex(list->currentIndex().row());
+    return;
+  }
+  QComboBox::keyPressEvent(event);
+}
+
+void TouchComboBox::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  painter.setPen(palette().color(QPalette::Text));
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QRect room =
+      style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  option.currentText =
+      option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, room.width() - kTextMargin);
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void TouchComboBox::showPopup() {
+  emit Opening();
+  QComboBox::showPopup();
 }
 
 }  // namespace vexa

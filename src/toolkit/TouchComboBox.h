@@ -4,15 +4,29 @@
 
 namespace vexa {
 
-/// A drop-down list whose entries are high enough for a finger. Typing searches the entries.
+class SearchedList;
+
+/// A drop-down list whose entries are high enough for a finger. Typing searches the entries, open
+/// or closed, by the beginnings of their words; an entry that is too long for the box ends in
+/// "...".
 class TouchComboBox : public QComboBox {
   Q_OBJECT
 
  public:
   explicit TouchComboBox(QWidget* parent);
 
-  /// Appends an entry.
-  void AddLine(const QString& text);
+  void showPopup() override;
+
+ signals:
+  /// The list is about to drop down.
+  void Opening();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  SearchedList* list;
 };
 
 }  // namespace vexa

@@ -3,10 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <set>
 #include <string>
-#include <vector>
 
+#include "support/ExpectedKeys.h"
 #include "support/Vectors.h"
 
 namespace vexa {
@@ -14,9 +13,11 @@ namespace {
 
 using enum BaseType;
 using test::Narrow;
-using Captions = std::set<std::wstring_view>;
+using test::Captions;
+using test::ExpectedDisabled;
+using test::ExpectedShown;
+using test::kBases;
 
-constexpr BaseType kBases[] = {Dec, Hex, Bin, Oct};
 constexpr int kRows = 8;
 constexpr int kColumns = 6;
 
@@ -38,67 +39,6 @@ Captions Disabled(const KeypadState& state) {
     if (IsKeyShown(key, state) && !IsKeyEnabled(key, state)) captions.insert(key.caption);
   }
   return captions;
-}
-
-void Cover(Captions& shown, const std::map<std::wstring_view, std::wstring_view>& places) {
-  for (const auto& [covered, covering] : places) {
-    ASSERT_EQ(shown.erase(covered), 1u) << Narrow(covered);
-    shown.insert(covering);
-  }
-}
-
-// The keys by what each state does to them, written down apart from the key table.
-const Captions kOnBothLayers{L"BS", L"DEL", L"CLR", L"PB",    L"DEG", L"Shift", L"Mac", L"SINH",
-                             L"COSH", L"Cnv", L"MEM", L"(...)", L"Exp", L"00", L"0", L"1",
-                             L"2",  L"3",   L"4",   L"5",     L"6",   L"7",     L"8",   L"9",
-                             L".",  L"(",   L")",   L"+",     L"-",   L"*",     L"/",   L"="};
-const std::map<std::wstring_view, std::wstring_view> kLayers{
-    {L"SIN", L"ASIN"}, {L"COS", L"ACOS"},    {L"TAN", L"ATAN"}, {L"LOG", L"10^X"},
-    {L"LN", L"e^X"},   {L"SQRT", L"XthR"},   {L"X^2", L"1/X"},  {L"nCr", L"nPr"},
-    {L"ABS()", L"INT()"}, {L"Pi", L"X!"},    {L"%", L"FRAC"},   {L"TANH", L"<<"},
-    {L"Y^X", L">>"}};
-const std::map<std::wstring_view, std::wstring_view> kCoveredUnshifted{
-    {L"TANH", L"<<"}, {L"Y^X", L">>"}, {L"%", L"NOT"},  {L"Pi", L"AND"},
-    {L"nCr", L"OR"},  {L"LOG", L"XOR"}, {L"LN", L"XNOR"}};
-const std::map<std::wstring_view, std::wstring_view> kCoveredShifted{
-    {L"FRAC", L"NOT"}, {L"X!", L"AND"}, {L"nPr", L"OR"}, {L"10^X", L"XOR"}, {L"e^X", L"XNOR"}};
-const std::map<std::wstring_view, std::wstring_view> kHexUnshifted{
-    {L"SQRT", L"A"}, {L"X^2", L"B"}, {L"SINH", L"C"}, {L"COSH", L"D"}, {L"SIN", L"E"}, {L"COS", L"F"}};
-const std::map<std::wstring_view, std::wstring_view> kHexShifted{
-    {L"XthR", L"A"}, {L"1/X", L"B"}, {L"SINH", L"C"}, {L"COSH", L"D"}, {L"ASIN", L"E"}, {L"ACOS", L"F"}};
-const Captions kDisabledInIntegerBases{L"Mac", L"Cnv", L"SINH", L"COSH", L".", L"Exp", L"Shift"};
-const Captions kDisabledUnshifted{L"ABS()", L"SIN", L"COS", L"TAN", L"SQRT", L"X^2"};
-const Captions kDisabledShifted{L"INT()", L"ASIN", L"ACOS", L"ATAN", L"1/X", L"XthR"};
-const std::map<BaseType, Captions> kDigitsNotAllowed{
-    {Dec, {}},
-    {Hex, {}},
-    {Oct, {L"8", L"9"}},
-    {Bin, {L"2", L"3", L"4", L"5", L"6", L"7", L"8", L"9"}}};
-const std::map<BaseType, std::wstring_view> kBaseNames{
-    {Dec, L"DEC"}, {Hex, L"HEX"}, {Bin, L"BIN"}, {Oct, L"OCT"}};
-
-Captions ExpectedShown(BaseType base, bool shifted) {
-  Captions shown = kOnBothLayers;
-  shown.insert(kBaseNames.at(base));
-  for (const auto& [unshiftedKey, shiftedKey] : kLayers) {
-    shown.insert(shifted ? shiftedKey : unshiftedKey);
-  }
-  if (base == Dec) return shown;
-  Cover(shown, shifted ? kCoveredShifted : kCoveredUnshifted);
-  if (base == Hex) Cover(shown, shifted ? kHexShifted : kHexUnshifted);
-  return shown;
-}
-
-Captions ExpectedDisabled(BaseType base, bool shifted) {
-  if (base == Dec) return {};
-  Captions disabled = kDisabledInIntegerBases;
-  const Captions& layer = shifted ? kDisabledShifted : kDisabledUnshifted;
-  disabled.insert(layer.begin(), layer.end());
-  const Captions& digits = kDigitsNotAllowed.at(base);
-  disabled.insert(digits.begin(), digits.end());
-  const Captions shown = ExpectedShown(base, shifted);
-  std::erase_if(disabled, [&](std::wstring_view caption) { return !shown.contains(caption); });
-  return disabled;
 }
 
 TEST(CalculatorKeypad, ShownKeysByBaseAndLayer) {

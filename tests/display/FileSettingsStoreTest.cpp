@@ -34,6 +34,7 @@ class FileSettingsStoreTest : public QObject {
   void APipeInPlaceOfTheFileIsKeptAside();
   void NothingIsWrittenWhereNothingCanBeMovedAside();
   void AnImpossibleFolderKeepsValuesForTheRun();
+  void AFullDiskKeepsTheOldFile_data();
   void AFullDiskKeepsTheOldFile();
   void ALeftLockDoesNotStall();
   void AFolderAsLockDoesNotStall();
@@ -242,7 +243,20 @@ void FileSettingsStoreTest::AnImpossibleFolderKeepsValuesForTheRun() {
   QCOMPARE(store->ReadSettingInt(L"Config", L"Mode", 1), 3);
 }
 
+void FileSettingsStoreTest::AFullDiskKeepsTheOldFile_data() {
+  QTest::addColumn<int>("room");
+  QTest::addColumn<int>("length");
+  // A lock file has 60 to 110 bytes; a small text waits in a buffer, a large one is written at
+  // once.
+  QTest::newRow("no room for the lock") << 10 << 5000;
+  QTest::newRow("no room for a small text") << 1000 << 5000;
+  QTest::newRow("no room for a large text") << 1000 << 50000;
+}
+
 void FileSettingsStoreTest::AFullDiskKeepsTheOldFile() {
+  QFETCH(int, room);
+  QFETCH(int, length);
+  const std::wstring text(static_cast<std::size_t>(length), L'X');
   Open().WriteSettingInt(L"Config", L"Mode", 2);
   QVERIFY(store->Flush());
   const QByteArray old = Bytes(FileName());
@@ -251,9 +265,9 @@ void FileSettingsStoreTest::AFullDiskKeepsTheOldFile() {
   signal(SIGXFSZ, SIG_IGN);
   rlimit limit{};
   QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
-  const rlimit full{100, limit.rlim_max};
+  const rlimit full{static_cast<rlim_t>(room), limit.rlim_max};
   QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
-  store->WriteSettingString(L"Macro0", L"Formula", std::wstring(5000, L'X'));
+  store->WriteSettingString(L"Macro0", L"Formula", text);
   const bool flushed = store->Flush();
   const std::wstring inMemory = store->ReadSettingString(L"Macro0", L"Formula", L"");
   const QByteArray during = Bytes(FileName());
@@ -261,8 +275,8 @@ void FileSettingsStoreTest::AFullDiskKeepsTheOldFile() {
 
   QVERIFY(!flushed);
   QCOMPARE(during, old);
-  QVERIFY(inMemory == std::wstring(5000, L'X'));
-  QVERIFY(Open().ReadSettingString(L"Macro0", L"Formula", L"") == std::wstring(5000, L'X'));
+  QVERIFY(inMemory == text);
+  QVERIFY(Open().ReadSettingString(L"Macro0", L"Formula", L"") == text);
 }
 
 void FileSettingsStoreTest::ALeftLockDoesNotStall() {

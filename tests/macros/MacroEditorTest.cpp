@@ -16,7 +16,8 @@ class MacroEditorTest : public testing::Test {
   void StoreMacros(int count) {
     for (int i = 0; i < count; ++i) {
       Write(store, settings::kMacroName, i, L"m" + std::to_wstring(i));
-      Write(store, settings::kMacroType, i, kMacroTypes[static_cast<std::size_t>(i % 3)].storedText);
+      Write(store, settings::kMacroType, i,
+            kMacroTypes[static_cast<std::size_t>(i % 3)].storedText);
       Write(store, settings::kMacroFormula, i, kFormulas[i % 3]);
     }
     Write(store, settings::kMacroCount, count);
@@ -93,7 +94,8 @@ TEST_F(MacroEditorTest, ChecksInOrder) {
     std::wstring sentence;
     Field field;
   };
-  const std::wstring longest(149, L'1');
+  // With "x+" before it, as long as a formula may be.
+  const std::wstring longest(148, L'1');
   const Case cases[] = {
       {{L"", -1, L""}, L"Macro Name is NULL", Field::Name},
       {{L"   ", -1, L""}, L"Macro Name is NULL", Field::Name},
@@ -105,6 +107,7 @@ TEST_F(MacroEditorTest, ChecksInOrder) {
       {{L"new", -1, L""}, L"Argument Type is NULL", Field::Type},
       {{L"new", 0, L""}, L"Macro Expression is NULL", Field::Formula},
       {{L"new", 0, L"  "}, L"Macro Expression is NULL", Field::Formula},
+      {{L"new", 0, L"x+1" + longest}, L"Macro Expression exceeded length limit.", Field::Formula},
       {{L"new", 0, L"x+" + longest}, L"number exceeded length limit.", Field::Formula},
       {{L"new", 0, L"x+y"}, L"Can not use variable Y", Field::Formula},
       {{L"new", 1, L"x+z"}, L"Can not use variable Z", Field::Formula},

@@ -31,9 +31,18 @@ TEST(MemoryVariables, StoreWritesTheSlotAtOnce) {
 TEST(MemoryVariables, TextThatIsNoNumberIsZero) {
   MemorySettingsStore store;
   MemoryVariables variables(store);
-  variables.Store(3, L"hello");
-  EXPECT_EQ(variables.Value(3), 0.0);
-  EXPECT_EQ(variables.Line(3), L"Mem04 = hello");
+  for (const std::wstring_view text : {L"hello", L"", L"inf", L"-infinity", L"nan", L"1e999"}) {
+    variables.Store(3, text);
+    EXPECT_EQ(variables.Value(3), 0.0);
+    EXPECT_EQ(variables.Line(3), L"Mem04 = " + std::wstring(text));
+  }
+}
+
+TEST(MemoryVariables, TheNumberAtTheFrontCounts) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  variables.Store(3, L" -2.5 apples");
+  EXPECT_EQ(variables.Value(3), -2.5);
 }
 
 TEST(MemoryVariables, GroupedTextIsReadWhole) {

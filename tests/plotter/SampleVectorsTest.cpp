@@ -12,15 +12,14 @@ namespace {
 using namespace test;
 
 void CheckCurve(const SampledCurve& curve, const QJsonArray& expected) {
-  SampledCurve points{};
+  std::array<PixelPoint, kSampleCount> points{};
   for (const QJsonValue point : expected) {
     points[static_cast<std::size_t>(point[0].toInt())] = {point[1].toInt(), point[2].toInt()};
   }
   for (std::size_t i = 0; i < kSampleCount; ++i) {
-    EXPECT_EQ(curve[i].y, points[i].y) << "sample " << i;
-    if (!IsEmpty(points[i])) {
-      EXPECT_EQ(curve[i].x, points[i].x) << "sample " << i;
-    }
+    EXPECT_EQ(curve[i].pixel, points[i]) << "sample " << i;
+    EXPECT_EQ(curve[i].IsEmpty(), points[i].y == 0) << "sample " << i;
+    EXPECT_EQ(static_cast<int>(curve[i].row), points[i].y) << "sample " << i;
   }
 }
 

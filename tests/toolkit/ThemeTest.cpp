@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFontInfo>
 #include <QImage>
+#include <QLabel>
 #include <QTest>
 #include <cmath>
 
@@ -27,8 +28,9 @@ double Contrast(const QColor& a, const QColor& b) {
   return first > second ? first / second : second / first;
 }
 
-constexpr KeyRole kRoles[] = {KeyRole::Digit,   KeyRole::Operator, KeyRole::Function,
-                              KeyRole::Editing, KeyRole::Command,  KeyRole::Equals};
+constexpr KeyRole kRoles[] = {KeyRole::Digit,   KeyRole::Operator,   KeyRole::Function,
+                              KeyRole::Editing, KeyRole::Command,    KeyRole::Equals,
+                              KeyRole::Shift,   KeyRole::ShiftActive};
 
 QPalette PaletteOf(const QColor& window) {
   return QPalette(window, window);
@@ -46,6 +48,8 @@ class ThemeTest : public QObject {
   void FollowsTheWindowColour();
   void TextsCanBeRead();
   void RolesDiffer();
+  void WhatIsDisabledCanBeRead();
+  void LightBlueIsTheSameInDark();
   void AKeyFollowsAChangeOfThePalette();
   void TheFocusIsVisible();
   void TheFontIsTahomaOrTheDesktops();
@@ -77,7 +81,34 @@ void ThemeTest::RolesDiffer() {
     for (const KeyRole role : kRoles) {
       faces.insert(theme::ColoursOf(role, PaletteOf(window)).face.rgb());
     }
-    QCOMPARE(faces.size(), qsizetype{6});
+    QCOMPARE(faces.size(), qsizetype{8});
+  }
+}
+
+void ThemeTest::WhatIsDisabledCanBeRead() {
+  for (const QColor& window : {kLightWindow, kDarkWindow}) {
+    QWidget field;
+    field.setPalette(PaletteOf(window));
+    theme::KeepReadable(&field);
+    for (const QPalette::ColorRole text :
+         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+      for (const QPalette::ColorRole ground : {QPalette::Window, QPalette::Base}) {
+        const QColor disabled = field.palette().color(QPalette::Disabled, text);
+        QVERIFY(Contrast(disabled, field.palette().color(QPalette::Disabled, ground)) >= 4.5);
+        // Still told from what can be changed.
+        QVERIFY(disabled != field.palette().color(QPalette::Active, text));
+      }
+    }
+  }
+}
+
+void ThemeTest::LightBlueIsTheSameInDark() {
+  for (const QColor& window : {kLightWindow, kDarkWindow}) {
+    QLabel label(QStringLiteral("text"));
+    label.setPalette(PaletteOf(window));
+    theme::ShowOnLightBlue(&label);
+    QCOMPARE(label.grab().toImage().pixelColor(1, 1), QColor(222, 231, 255));
+    QVERIFY(Contrast(label.palette().color(QPalette::WindowText), QColor(222, 231, 255)) >= 4.5);
   }
 }
 

@@ -1,0 +1,284 @@
+#include "plotter/GraphViewDialog.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPixmap>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "display/DisplayFormattingDialog.h"
+#include "display/SettingsLayout.h"
+#include "display/WideText.h"
+#include "plotter/ColourIcon.h"
+#include "plotter/GraphFile.h"
+#include "plotter/PlotView.h"
+#include "plotter/PlotterOptionsDialog.h"
+#include "toolkit/MessageBox.h"
+#include "toolkit/TouchComboBox.h"
+#include "toolkit/TouchSize.h"
+
+namespace vexa {
+namespace {
+
+constexpr QSize kOpeningSize(400, 520);
+
+/// The keys of the menu's commands. Arrow keys move while the graph has the focus, so that lists
+/// and boxes keep theirs; the others work everywhere in the view.
+struct CommandKeys {
+  std::wstring_view caption;
+  const char* keys;
+  Qt::ShortcutContext context;
+};
+constexpr CommandKeys kCommandKeys[] = {
+    {L"Zoom In", "+; =; Ctrl++; Ctrl+=", Qt::WindowShortcut},
+    {L"Zoom Out", "-; Ctrl+-", Qt::WindowShortcut},
+    {L"Reset", "Ctrl+0", Qt::WindowShortcut},
+    {L"Move Left", "Left", Qt::WidgetShortcut},
+    {L"Move Right", "Right", Qt::WidgetShortcut},
+    {L"Move Up", "Up", Qt::WidgetShortcut},
+    {L"Move Down", "Down", Qt::WidgetShortcut},
+    {L"Undo", "Ctrl+Z", Qt::WindowShortcut},
+};
+
+/// The view's number settings as they are stored.
+GraphModel NewModel(const SettingsStore& store, GraphData graph) {
+  return {std::move(graph), static_cast<DisplayType>(Read(store, settings::kDisplayType)),
+          Read(store, settings::kPrecision)};
+}
+
+}  // namespace
+
+GraphViewDialog::GraphViewDialog(SettingsStore& settingsStore, GraphData shown, QWidget* parent)
+    : Dialog(QStringLiteral("GraphView"), parent),
+      store(settingsStore),
+      graph(NewModel(settingsStore, std::move(shown))),
+      functionList(new TouchComboBox(this)),
+      readOutList(new TouchComboBox(this)),
+      view(new PlotView(graph, this)),
+      xBox(new QLineEdit(this)),
+      traceCheck(new QCheckBox(QStringLiteral("Trace"), this)) {
+  BuildLists();
+  Content()->addWidget(view, 1);
+  BuildReading();
+  BuildButtons();
+  BuildMenus();
+  Refresh();
+  resize(kOpeningSize.boundedTo(screen()->availableSize()));
+  view->setFocus();
+  connect(view, &PlotView::PenPressed, this, &GraphViewDialog::PressPen);
+  connect(view, &PlotView::PenMoved, this, &GraphViewDialog::MovePen);
+  connect(view, &PlotView::PenReleased, this, &GraphViewDialog::ReleasePen);
+  connect(view, &PlotView::WheelTurned, this, &GraphViewDialog::TurnWheel);
+}
+
+void GraphViewDialog::BuildLists() {
+  auto* const row = new QHBoxLayout;
+  auto* const angle = new QLabel(
+      graph.Angle() == AngleType::Degrees ? QStringLiteral("DEG") : QStringLiteral("RAD"), this);
+  angle->setObjectName(QStringLiteral("Angle"));
+  row->addWidget(angle);
+  row->addWidget(functionList, 1);
+  Content()->addLayout(row);
+  Content()->addWidget(readOutList);
+  functionList->setObjectName(QStringLiteral("Functions"));
+  functionList->setAccessibleName(QStringLiteral("Functions"));
+  readOutList->setObjectName(QStringLiteral("Values"));
+  readOutList->setAccessibleName(QStringLiteral("Values"));
+  for (std::size_t i = 0; i < graph.Functions().size(); ++i) {
+    functionList->addItem(FromWide(graph.Functions()[i].label));
+    functionList->setItemIcon(static_cast<int>(i), CurveIcon(i));
+  }
+  connect(functionList, &QComboBox::activated, this, &GraphViewDialog::SelectFunction);
+  connect(readOutList, &QComboBox::activated, this, &GraphViewDialog::SelectReadOut);
+  connect(functionList, &TouchComboBox::Opening, this, &GraphViewDialog::RemoveRubberBand);
+  connect(readOutList, &TouchComboBox::Opening, this, &GraphViewDialog::RemoveRubberBand);
+}
+
+void GraphViewDialog::BuildReading() {
+  QHBoxLayout* const row = AddButtonRow();
+  auto* const label = new QLabel(QStringLiteral("X ="), this);
+  label->setBuddy(xBox);
+  xBox->setObjectName(QStringLiteral("X ="));
+  xBox->setAccessibleName(QStringLiteral("X ="));
+  xBox->setMinimumHeight(kTouchHeight);
+  row->addWidget(label);
+  row->addWidget(xBox, 1);
+  SetDefault(AddButton(row, L"Cal", this, &GraphViewDialog::Cal));
+  traceCheck->setObjectName(QStringLiteral("Trace"));
+  traceCheck->setAccessibleName(QStringLiteral("Trace"));
+  traceCheck->setMinimumHeight(kTouchHeight);
+  row->addWidget(traceCheck);
+  connect(xBox, &QLineEdit::textEdited, this,
+          [this](const QString& text) { graph.xBox = text.toStdWString(); });
+  connect(traceCheck, &QCheckBox::clicked, this, &GraphViewDialog::ToggleTrace);
+}
+
+void GraphViewDialog::BuildButtons() {
+  QHBoxLayout* const row = AddButtonRow();
+  AddButton(row, L"Save Graph", this, &GraphViewDialog::Save);
+  AddButton(row, L"Close", this, &GraphViewDialog::accept);
+}
+
+void GraphViewDialog::BuildMenus() {
+  auto* const menuBar = new QMenuBar(this);
+  layout()->setMenuBar(menuBar);
+  QMenu* const file = menuBar->addMenu(QStringLiteral("&File"));
+  file->addAction(QStringLiteral("&Save Graph..."), QKeySequence::Save, this,
+                  &GraphViewDialog::Save);
+  file->addAction(QStringLiteral("&Config..."), this, &GraphViewDialog::Configure);
+  file->addAction(QStringLiteral("&Close"), this, &GraphViewDialog::accept);
+  QMenu* const menu = menuBar->addMenu(QStringLiteral("&Graph"));
+  for (const GraphCommand& command : kGraphCommands) {
+    QAction* const action =
+        menu->addAction(FromWide(command.caption), this, [this, command] { Run(command.run); });
+    for (const CommandKeys& keys : kCommandKeys) {
+      if (keys.caption != command.caption) continue;
+      action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(keys.keys)));
+      action->setShortcutContext(keys.context);
+    }
+    // The widget whose focus the context speaks of.
+    view->addAction(action);
+  }
+  menu->addSeparator();
+  menu->addAction(QStringLiteral("Graph Options"), this, &GraphViewDialog::EditOptions);
+}
+
+void GraphViewDialog::Refresh() {
+  const QSignalBlocker blocker(functionList);
+  functionList->setCurrentIndex(graph.SelectedFunction());
+  FillReadOuts();
+  if (xBox->text().toStdWString() != graph.xBox) xBox->setText(FromWide(graph.xBox));
+  traceCheck->setChecked(graph.IsTracing());
+}
+
+void GraphViewDialog::FillReadOuts() {
+  const QSignalBlocker blocker(readOutList);
+  readOutList->clear();
+  for (std::size_t i = 0; i < graph.ReadOuts().size(); ++i) {
+    readOutList->addItem(FromWide(graph.ReadOutLine(i)));
+  }
+  readOutList->setCurrentIndex(graph.SelectedReadOut());
+}
+
+void GraphViewDialog::Show(const std::wstring& sentence, QWidget* fault) {
+  Refresh();
+  if (!sentence.empty()) ShowErrorBox(this, sentence, [fault] { fault->setFocus(); });
+}
+
+void GraphViewDialog::Run(std::wstring (GraphModel::*command)()) {
+  const std::wstring sentence = (graph.*command)();
+  view->ShowGraph();
+  Show(sentence, view);
+}
+
+void GraphViewDialog::PressPen(PixelPoint point) {
+  const std::wstring sentence = graph.PenDown(point);
+  view->ShowDrag();
+  Show(sentence, view);
+}
+
+void GraphViewDialog::MovePen(PixelPoint point) {
+  graph.PenMove(point);
+  view->ShowDrag();
+}
+
+void GraphViewDialog::ReleasePen(PixelPoint point) {
+  const std::wstring sentence = graph.PenUp(point);
+  view->ShowGraph();
+  Show(sentence, view);
+}
+
+void GraphViewDialog::TurnWheel(int steps) {
+  const auto command = steps > 0 ? &GraphModel::ZoomIn : &GraphModel::ZoomOut;
+  std::wstring sentence;
+  for (int n = 0; n < std::abs(steps) && sentence.empty(); ++n) sentence = (graph.*command)();
+  view->ShowGraph();
+  Show(sentence, view);
+}
+
+void GraphViewDialog::Cal() {
+  const std::wstring sentence = graph.Cal();
+  view->ShowDrag();
+  Show(sentence, xBox);
+}
+
+void GraphViewDialog::ToggleTrace() {
+  graph.ToggleTrace();
+  view->ShowDrag();
+  Refresh();
+}
+
+void GraphViewDialog::SelectFunction(int index) {
+  graph.SelectFunction(index);
+  Refresh();
+}
+
+void GraphViewDialog::SelectReadOut(int index) {
+  graph.SelectReadOut(index);
+  Refresh();
+}
+
+void GraphViewDialog::RemoveRubberBand() {
+  graph.RemoveRubberBand();
+  view->ShowDrag();
+}
+
+void GraphViewDialog::EditOptions() {
+  RemoveRubberBand();
+  auto* const dialog = new PlotterOptionsDialog(graph.Ranges(), graph.Options(), this);
+  connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    graph.ApplyOptions(dialog->ranges, dialog->options);
+    view->ShowGraph();
+    Refresh();
+  });
+  dialog->open();
+}
+
+void GraphViewDialog::Configure() {
+  RemoveRubberBand();
+  auto* const dialog = new DisplayFormattingDialog(graph.Display(), graph.Precision(), this);
+  connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    Write(store, settings::kDisplayType, static_cast<int>(dialog->displayType));
+    Write(store, settings::kPrecision, dialog->decimalPlaces);
+    graph.SetDisplay(dialog->displayType, dialog->decimalPlaces);
+    view->ShowGraph();
+    Refresh();
+  });
+  dialog->open();
+}
+
+void GraphViewDialog::Save() {
+  RemoveRubberBand();
+  auto* const dialog = new QFileDialog(this, QStringLiteral("Save Graph"));
+  dialog->setObjectName(QStringLiteral("SaveGraph"));
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  QStringList filters;
+  for (const GraphFormat& format : GraphFormats()) filters << QString::fromLatin1(format.filter);
+  dialog->setNameFilters(filters);
+  // A name without a suffix gets the chosen format's.
+  const auto follow = [dialog, filters](const QString& filter) {
+    const auto chosen = static_cast<std::size_t>(std::max<qsizetype>(0, filters.indexOf(filter)));
+    dialog->setDefaultSuffix(QString::fromLatin1(GraphFormats()[chosen].suffix));
+  };
+  follow(filters.first());
+  connect(dialog, &QFileDialog::filterSelected, dialog, follow);
+  connect(dialog, &QFileDialog::fileSelected, this, &GraphViewDialog::SaveAs);
+  dialog->open();
+}
+
+void GraphViewDialog::SaveAs(const QString& path) {
+  if (!SaveGraph(graph, path)) {
+    ShowErrorBox(this, std::wstring(kFileError), [this] { view->setFocus(); });
+  }
+}
+
+}  // namespace vexa

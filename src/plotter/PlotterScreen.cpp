@@ -1,0 +1,218 @@
+#include "plotter/PlotterScreen.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "display/DisplayFormattingDialog.h"
+#include "display/SettingsLayout.h"
+#include "display/WideText.h"
+#include "macros/MacroEditorDialog.h"
+#include "macros/MacroKey.h"
+#include "macros/MemoryVariableDialog.h"
+#include "plotter/ColourIcon.h"
+#include "plotter/GraphViewDialog.h"
+#include "plotter/PlotterKeypad.h"
+#include "plotter/RangeForm.h"
+#include "toolkit/EditLine.h"
+#include "toolkit/KeyButton.h"
+#include "toolkit/Keypad.h"
+#include "toolkit/MessageBox.h"
+#include "toolkit/TouchComboBox.h"
+
+namespace vexa {
+namespace {
+
+/// Shares of the window's height, and the least that the field needs for a row.
+constexpr int kFieldShare = 4;
+constexpr int kFormShare = 8;
+constexpr int kKeypadShare = 26;
+constexpr int kLeastFieldHeight = 26;
+constexpr int kLeastBoxHeight = 18;
+constexpr int kListButtonWidth = 40;
+
+}  // namespace
+
+const PlotterScreen::KeyCommand PlotterScreen::kKeyCommands[] = {
+    {L"Plot", &PlotterScreen::Plot},       {L"PB", &PlotterScreen::RecallHistory},
+    {L"DEG", &PlotterScreen::ToggleAngle}, {L"RAD", &PlotterScreen::ToggleAngle},
+    {L"Mac", &PlotterScreen::InsertMacro}, {L"M", &PlotterScreen::RecallVariable},
+};
+
+PlotterScreen::PlotterScreen(SettingsStore& settingsStore, QWidget* parent)
+    : ExpressionScreen(Mode::FunctionPlotter, PlotterKeys(), parent),
+      store(settingsStore),
+      functions(settingsStore),
+      list(new TouchComboBox(this)),
+      form(new RangeForm(kLeastBoxHeight, this)),
+      lastFocused(Line()) {
+  Line()->setObjectName(QStringLiteral("Function"));
+  Line()->setAccessibleName(QStringLiteral("Function"));
+  Line()->setMinimumHeight(kLeastFieldHeight);
+  form->SetTexts(functions.StoredRanges());
+  Content()->addWidget(Line(), kFieldShare);
+  BuildList();
+  Content()->addWidget(form, kFormShare);
+  Content()->addWidget(Keys(), kKeypadShare);
+
+  AddFileCommand(QStringLiteral("&Config..."), this, &PlotterScreen::Configure);
+  BuildEditMenu();
+  SetDefaultButton(Keys()->Button(L"Plot"));
+  FollowFocus();
+  Refresh();
+}
+
+PlotterScreen::~PlotterScreen() {
+  functions.Save(form->Texts());
+}
+
+void PlotterScreen::BuildList() {
+  auto* const row = new QHBoxLayout;
+  auto* const label = new QLabel(QStringLiteral("F(X) ="), this);
+  label->setBuddy(list);
+  list->setObjectName(QStringLiteral("F(X) ="));
+  list->setAccessibleName(QStringLiteral("F(X) ="));
+  row->addWidget(label);
+  row->addWidget(list, 1);
+  addButton = NewListButton(row, QStringLiteral("A"), &PlotterScreen::Add);
+  addButton->setToolTip(QStringLiteral("Add the function to the list"));
+  deleteButton = NewListButton(row, QStringLiteral("D"), &PlotterScreen::Delete);
+  deleteButton->setToolTip(QStringLiteral("Delete the selected function from the list"));
+  Content()->addLayout(row);
+  connect(list, &QComboBox::activated, this, &PlotterScreen::SelectFunction);
+}
+
+QPushButton* PlotterScreen::NewListButton(QBoxLayout* row, const QString& caption,
+                                          void (PlotterScreen::*pressed)()) {
+  auto* const button = new QPushButton(caption, this);
+  button->setObjectName(caption);
+  button->setAccessibleName(caption);
+  button->setAutoDefault(false);
+  button->setFocusPolicy(Qt::TabFocus);
+  button->setFixedWidth(kListButtonWidth);
+  button->setMinimumHeight(list->minimumHeight());
+  row->addWidget(button);
+  connect(button, &QPushButton::clicked, this, pressed);
+  return button;
+}
+
+void PlotterScreen::FollowFocus() {
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now == Line() || std::ranges::find(form->Boxes(), now) != form->Boxes().end()) {
+      lastFocused = now;
+    }
+  });
+}
+
+KeypadState PlotterScreen::State() const {
+  return {functions.Angle(), functions.History().IsEmpty(), BaseType::Dec, IsShifted()};
+}
+
+void PlotterScreen::RunKey(std::wstring_view caption) {
+  for (const KeyCommand& command : kKeyCommands) {
+    if (command.caption == caption) return (this->*command.run)();
+  }
+}
+
+void PlotterScreen::Refresh() {
+  const QSignalBlocker blocker(list);
+  list->clear();
+  for (int i = 0; i < functions.Count(); ++i) {
+    list->AddLine(FromWide(functions.At(i)));
+    list->setItemIcon(i, CurveIcon(static_cast<std::size_t>(i)));
+  }
+  list->setCurrentIndex(functions.Selected());
+  addButton->setEnabled(functions.CanAdd());
+  deleteButton->setEnabled(functions.CanDelete());
+  RefreshKeypad();
+}
+
+bool PlotterScreen::Show(const PlotterOutcome& outcome) {
+  if (outcome.fieldText) {
+    const std::wstring& text = *outcome.fieldText;
+    Line()->ApplyChange({0, Line()->Text().size(), text, text.size()});
+  }
+  Refresh();
+  Line()->setFocus();
+  if (outcome.sentence.empty()) return true;
+  QWidget* const fault =
+      outcome.boxAtFault ? form->Box(*outcome.boxAtFault) : static_cast<QWidget*>(Line());
+  ShowErrorBox(this, outcome.sentence, [fault] { fault->setFocus(); });
+  return false;
+}
+
+void PlotterScreen::Add() {
+  Show(functions.Add(Line()->Text()));
+}
+
+void PlotterScreen::Delete() {
+  AskYesNo(this, std::wstring(kDeleteFunctionQuestion), [this] {
+    functions.DeleteSelected();
+    Refresh();
+  });
+}
+
+void PlotterScreen::SelectFunction(int index) {
+  functions.Select(index);
+  Show({.fieldText = functions.At(index)});
+}
+
+void PlotterScreen::Plot() {
+  GraphData graph;
+  if (!Show(functions.Plot(Line()->Text(), form->Texts(), form->Options(), graph))) return;
+  OpenDialog(new GraphViewDialog(store, std::move(graph), this));
+}
+
+void PlotterScreen::ToggleAngle() {
+  functions.ToggleAngle();
+  Refresh();
+  Line()->setFocus();
+}
+
+void PlotterScreen::RecallHistory() {
+  const TextHistory& history = functions.History();
+  ShowHistory(history, [this, &history](int index) { InsertIntoLine(history.At(index)); });
+}
+
+void PlotterScreen::InsertMacro() {
+  if (QDialog* const picker = NewMacroPicker(store, Line(), this, [this] { EditMacros(); })) {
+    OpenDialog(picker);
+  }
+}
+
+void PlotterScreen::EditMacros() {
+  OpenDialog(new MacroEditorDialog(store, this));
+}
+
+void PlotterScreen::RecallVariable() {
+  QWidget* const target = lastFocused;
+  auto* const dialog = new MemoryVariableDialog(store, this);
+  connect(dialog, &MemoryVariableDialog::Recalled, this,
+          [this, target](int index) { TakeVariable(target, index); });
+  connect(dialog, &QDialog::finished, target, qOverload<>(&QWidget::setFocus));
+  dialog->open();
+}
+
+void PlotterScreen::TakeVariable(QWidget* target, int index) {
+  const std::wstring text = MemoryVariables(store).Text(index);
+  if (target == Line()) return InsertIntoLine(text);
+  qobject_cast<QLineEdit*>(target)->setText(FromWide(text));
+}
+
+void PlotterScreen::Configure() {
+  auto* const dialog =
+      new DisplayFormattingDialog(static_cast<DisplayType>(Read(store, settings::kDisplayType)),
+                                  Read(store, settings::kPrecision), this);
+  connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    Write(store, settings::kDisplayType, static_cast<int>(dialog->displayType));
+    Write(store, settings::kPrecision, dialog->decimalPlaces);
+  });
+  OpenDialog(dialog);
+}
+
+}  // namespace vexa

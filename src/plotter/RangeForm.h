@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "plotter/PlotRanges.h"
+
+class QCheckBox;
+class QGridLayout;
+class QLineEdit;
+
+namespace vexa {
+
+/// The four boxes of the ranges and the check boxes of the options.
+class RangeForm : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `leastHeight`: of a box, where the form has little room.
+  RangeForm(int leastHeight, QWidget* parent);
+
+  RangeTexts Texts() const;
+  void SetTexts(const RangeTexts& texts);
+  PlotOptions Options() const;
+  void SetOptions(const PlotOptions& options);
+  QLineEdit* Box(RangeBox box) const { return boxes[static_cast<std::size_t>(box)]; }
+  const std::array<QLineEdit*, kRangeBoxCaptions.size()>& Boxes() const { return boxes; }
+
+ private:
+  void BuildBoxes(QGridLayout* grid, int leastHeight);
+
+  std::array<QLineEdit*, kRangeBoxCaptions.size()> boxes;
+  std::array<QCheckBox*, kPlotOptionCaptions.size()> checks;
+};
+
+}  // namespace vexa
