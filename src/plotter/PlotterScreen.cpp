@@ -123,7 +123,7 @@ void PlotterScreen::Refresh() {
   const QSignalBlocker blocker(list);
   list->clear();
   for (int i = 0; i < functions.Count(); ++i) {
-    list->AddLine(FromWide(functions.At(i)));
+    list->addItem(FromWide(functions.At(i)));
     list->setItemIcon(i, CurveIcon(static_cast<std::size_t>(i)));
   }
   list->setCurrentIndex(functions.Selected());
