@@ -43,7 +43,8 @@ class MainFrameTest : public QObject {
   /// The class of the one screen that there is.
   QByteArray ScreenClass() const {
     const auto screens = frame->findChildren<ModeScreen*>();
-    return screens.size() == 1 ? screens.first()->metaObject()->className() : QByteArray();
+    if (screens.size() != 1) return "not one screen";
+    return screens.first()->metaObject()->className();
   }
 
   std::unique_ptr<MemorySettingsStore> store;
