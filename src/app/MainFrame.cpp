@@ -14,6 +14,7 @@
 #include "plotter/PlotterScreen.h"
 #include "stats/OneVarScreen.h"
 #include "stats/TwoVarScreen.h"
+#include "toolkit/ModeScreen.h"
 
 namespace vexa {
 namespace {

@@ -46,7 +46,6 @@ class DataList {
       L"Are you sure you want to delete the selected data?";
   static constexpr std::wstring_view kClearQuestion = L"Are you sure you want to delete all data?";
   static constexpr std::wstring_view kSaveQuestion = L"Do you want to save changes to Data?";
-  static constexpr std::wstring_view kFileError = L"File Error";
 
   explicit DataList(std::span<const ListColumn> listColumns);
 

@@ -13,6 +13,12 @@ namespace {
 constexpr int kLeastRows = 1;
 constexpr int kWantedRows = 4;
 
+/// Where columns are narrow, texts shrink down to this, in pixels, so that such a value fits.
+constexpr int kSmallestText = 10;
+const QString kWideValue = QStringLiteral("-1.23457e+013");
+/// What the style leaves free beside a cell's text.
+constexpr int kCellPadding = 8;
+
 }  // namespace
 
 DataTableView::DataTableView(const DataList& shownList, QWidget* parent)
@@ -102,6 +108,13 @@ void DataTableView::FitColumns() {
     setColumnWidth(static_cast<int>(n), right - left);
     left = right;
   }
+  QFont text = parentWidget()->font();
+  int pixels = QFontInfo(text).pixelSize();
+  const auto fits = [&] {
+    return QFontMetrics(text).horizontalAdvance(kWideValue) + kCellPadding <= columnWidth(0);
+  };
+  while (pixels > kSmallestText && !fits()) text.setPixelSize(--pixels);
+  setFont(text);
 }
 
 }  // namespace vexa

@@ -67,14 +67,14 @@ constexpr Key kTwoVarKeys[] = {
     NewKey(L"Plot",             Command,  3, 4, 2, L"Draw the data and the fitted curve"),
     NewKey(L"\u03C3(n) of X",   Function, 4, 0, 2, L"Standard deviation of X, divisor n"),
     NewKey(L"\u03C3(n) of Y",   Function, 4, 2, 2, L"Standard deviation of Y, divisor n"),
-    NewKey(L"r",                Operator, 4, 4, 2, L"Correlation coefficient of the linear model"),
-    NewKey(L"C",                Operator, 4, 4, 2, L"Coefficient C of the fitted curve"),
-    NewKey(L"A",                Operator, 5, 0, 1, L"Coefficient A of the fitted curve"),
-    NewKey(L"B",                Operator, 5, 1, 1, L"Coefficient B of the fitted curve"),
-    NewKey(L"Y'",               Operator, 5, 2, 2, L"The curve's Y for the X above"),
-    NewKey(L"X'",               Operator, 5, 4, 2, L"The curve's X for the Y above"),
-    NewKey(L"X1'",              Operator, 5, 4, 1, L"The curve's first X for the Y above"),
-    NewKey(L"X2'",              Operator, 5, 5, 1, L"The curve's second X for the Y above"),
+    NewKey(L"r",                Function, 4, 4, 2, L"Correlation coefficient of the linear model"),
+    NewKey(L"C",                Function, 4, 4, 2, L"Coefficient C of the fitted curve"),
+    NewKey(L"A",                Function, 5, 0, 1, L"Coefficient A of the fitted curve"),
+    NewKey(L"B",                Function, 5, 1, 1, L"Coefficient B of the fitted curve"),
+    NewKey(L"Y'",               Function, 5, 2, 2, L"The curve's Y for the X above"),
+    NewKey(L"X'",               Function, 5, 4, 2, L"The curve's X for the Y above"),
+    NewKey(L"X1'",              Function, 5, 4, 1, L"The curve's first X for the Y above"),
+    NewKey(L"X2'",              Function, 5, 5, 1, L"The curve's second X for the Y above"),
 };
 // clang-format on
 
@@ -122,10 +122,6 @@ std::span<const Key> OneVarKeys() {
 }
 std::span<const Key> TwoVarKeys() {
   return kTwoVarKeys;
-}
-
-bool IsModelKey(const Key& key) {
-  return ModelOf(key);
 }
 
 bool IsKeyShown(const Key& key, const StatisticsKeypadState& state) {

@@ -27,28 +27,17 @@
 namespace vexa {
 namespace {
 
-/// Shares of the window's height.
-constexpr int kListShare = 5;
-constexpr int kResultsShare = 4;
-/// The least that is seen of the result keys, which scroll where the window is low.
+/// The list grows with the window as this many rows of result keys do.
+constexpr int kListShare = 7;
+/// What is seen of the result keys, which scroll where the window is low.
 constexpr int kLeastResultsHeight = 54;
+/// Rows that the list shows before all result keys are shown.
+constexpr int kListRowsFirst = 3;
 
 constexpr const char* kFileFilter = "TXT(*.txt)";
 
 void HideKeyboard() {
   QGuiApplication::inputMethod()->hide();
-}
-
-/// `keypad` in a frame that scrolls it where it has no room.
-QWidget* Scrolling(QWidget* keypad, QWidget* parent) {
-  auto* const area = new QScrollArea(parent);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setWidgetResizable(true);
-  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  area->setFocusPolicy(Qt::NoFocus);
-  area->setMinimumHeight(kLeastResultsHeight);
-  area->setWidget(keypad);
-  return area;
 }
 
 }  // namespace
@@ -76,6 +65,7 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
       table(new DataTableView(statistics.List(), this)),
       listKeys(new Keypad(ListKeys(), this)),
       resultLine(new ResultLine(this)),
+      resultArea(new QScrollArea(this)),
       resultKeys(new Keypad(keys, this)) {
   listKeys->SetKeyHeight(kTouchHeight);
   listKeys->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -87,7 +77,13 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
   Content()->addWidget(table, kListShare);
   Content()->addWidget(listKeys);
   Content()->addWidget(resultLine);
-  Content()->addWidget(Scrolling(resultKeys, this), kResultsShare);
+  resultArea->setFrameShape(QFrame::NoFrame);
+  resultArea->setWidgetResizable(true);
+  resultArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  resultArea->setFocusPolicy(Qt::NoFocus);
+  resultArea->setMinimumHeight(kLeastResultsHeight);
+  resultArea->setWidget(resultKeys);
+  Content()->addWidget(resultArea, keys.back().row + 1);
   setFocusProxy(form);
 
   BuildMenus();
@@ -147,6 +143,15 @@ void StatisticsScreen::RunKey(std::wstring_view caption) {
 void StatisticsScreen::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && statistics.List().EditedRow()) return Cancel();
   ModeScreen::keyPressEvent(event);
+}
+
+void StatisticsScreen::resizeEvent(QResizeEvent* event) {
+  const int listHeight = kListRowsFirst * kTouchHeight;
+  const int others = Content()->totalMinimumSize().height() - resultArea->minimumHeight();
+  const int keys = resultKeys->minimumSizeHint().height();
+  const bool haveRoom = others + listHeight + keys <= height();
+  resultArea->setMinimumHeight(haveRoom ? keys : kLeastResultsHeight);
+  ModeScreen::resizeEvent(event);
 }
 
 bool StatisticsScreen::Complain(const EntryFault& fault) {

@@ -9,6 +9,7 @@
 #include "toolkit/ModeScreen.h"
 
 class QDialog;
+class QScrollArea;
 
 namespace vexa {
 
@@ -40,6 +41,8 @@ class StatisticsScreen : public ModeScreen {
 
   void PrepareToLeave(std::function<void()> leave) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// Shows all result keys where there is room for them.
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   struct KeyCommand {
@@ -48,7 +51,6 @@ class StatisticsScreen : public ModeScreen {
   };
   static const KeyCommand kKeyCommands[];
 
-  void BuildKeypads();
   void BuildMenus();
   StatisticsKeypadState KeypadState() const;
   /// Says what is wrong with an edit, whose focus comes back; false: nothing is.
@@ -87,6 +89,7 @@ class StatisticsScreen : public ModeScreen {
   DataTableView* table;
   Keypad* listKeys;
   ResultLine* resultLine;
+  QScrollArea* resultArea;
   Keypad* resultKeys;
 };
 

@@ -2,7 +2,9 @@
 
 #include <QMenu>
 #include <algorithm>
+#include <utility>
 
+#include "plotter/GraphViewDialog.h"
 #include "toolkit/KeyButton.h"
 #include "toolkit/Keypad.h"
 #include "toolkit/MessageBox.h"
@@ -39,6 +41,7 @@ void TwoVarScreen::Plot() {
   GraphData graph;
   const std::wstring message = Rules().PreparePlot(graph);
   if (!message.empty()) return ShowErrorBox(this, message);
+  OpenDialog(new GraphViewDialog(Store(), std::move(graph), this));
 }
 
 }  // namespace vexa

@@ -287,7 +287,6 @@ TEST(DataList, Sentences) {
   EXPECT_EQ(DataList::kDeleteQuestion, L"Are you sure you want to delete the selected data?");
   EXPECT_EQ(DataList::kClearQuestion, L"Are you sure you want to delete all data?");
   EXPECT_EQ(DataList::kSaveQuestion, L"Do you want to save changes to Data?");
-  EXPECT_EQ(DataList::kFileError, L"File Error");
 }
 
 }  // namespace
