@@ -9,9 +9,6 @@ if(VEXA_SANITIZE)
   target_compile_options(vexa_options INTERFACE
     -fsanitize=${VEXA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(vexa_options INTERFACE -fsanitize=${VEXA_SANITIZE})
-  # gcc's own instrumentation sets this warning off; the other builds have it on.
-  target_compile_options(vexa_options INTERFACE
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   # The containers check their indices too, which the sanitizers cannot see inside an object.
   target_compile_definitions(vexa_options INTERFACE _GLIBCXX_ASSERTIONS)
 endif()

@@ -3,7 +3,8 @@ vexa_rule_test(store_rules_test display/IniTextTest.cpp display/Utf8Test.cpp)
 vexa_rule_test(toolkit_rules_test
   toolkit/KeyTest.cpp
   toolkit/LineTextTest.cpp
-  toolkit/ModesTest.cpp)
+  toolkit/ModesTest.cpp
+  toolkit/TypedSearchTest.cpp)
 vexa_rule_test(app_window_rules_test app/CalculatorKeypadTest.cpp app/WindowPlaceTest.cpp)
 
 vexa_screen_test(file_settings_store_test display/FileSettingsStoreTest.cpp)
@@ -30,3 +31,12 @@ vexa_screen_test(single_instance_test app/SingleInstanceTest.cpp)
 vexa_screen_test(process_test app/ProcessTest.cpp)
 target_compile_definitions(process_test PRIVATE VEXA_PROGRAM="$<TARGET_FILE:vexa-calculator>")
 add_dependencies(process_test vexa-calculator)
+
+vexa_screen_test(unit_converter_dialog_test converter/UnitConverterDialogTest.cpp)
+vexa_screen_test(unit_converter_memory_test converter/UnitConverterMemoryTest.cpp)
+vexa_screen_test(unit_converter_keys_test converter/UnitConverterKeysTest.cpp)
+vexa_screen_test(user_conversion_dialog_test converter/UserConversionDialogTest.cpp)
+vexa_screen_test(user_conversion_save_test converter/UserConversionSaveTest.cpp)
+vexa_screen_test(user_define_category_test converter/UserDefineCategoryTest.cpp)
+vexa_screen_test(converter_round_trip_test converter/ConverterRoundTripTest.cpp)
+vexa_screen_test(touch_combo_box_test toolkit/TouchComboBoxTest.cpp)

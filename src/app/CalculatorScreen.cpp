@@ -54,9 +54,8 @@ CalculatorScreen::CalculatorScreen(SettingsStore& settingsStore, QWidget* parent
   resultLine->setMinimumHeight(kLeastResultHeight);
   Content()->addWidget(Line(), kEditShare);
   Content()->addWidget(resultLine, kResultShare);
-  Content()->addWidget(Keys(), kKeypadShare);
+  PlaceKeypad(kKeypadShare);
 
-  setTabOrder(Line(), resultLine);
   BuildFileMenu();
   BuildEditMenu(resultLine);
   SetDefaultButton(Keys()->Button(L"="));
@@ -64,6 +63,8 @@ CalculatorScreen::CalculatorScreen(SettingsStore& settingsStore, QWidget* parent
 }
 
 CalculatorScreen::~CalculatorScreen() {
+  // The program may be ended while the converter is open: it hands back what it would on "Cancel".
+  for (auto* const dialog : findChildren<UnitConverterDialog*>()) dialog->reject();
   calculator.Save();
 }
 

@@ -115,6 +115,8 @@ void UnitConverterDialog::BuildMenus() {
       ->setShortcuts(QKeySequence::Copy);
   edit->addAction(QStringLiteral("&Paste"), input, &QLineEdit::paste)
       ->setShortcuts(QKeySequence::Paste);
+  // Told only: each field has these keys of its own, so that a result can be copied too.
+  for (QAction* const action : edit->actions()) action->setShortcutContext(Qt::WidgetShortcut);
   // Beside the menus, where it takes no row of its own.
   QLabel* const title = NewCaption(QStringLiteral("Unit Converter"), menuBar);
   title->setBuddy(category);

@@ -39,11 +39,18 @@ void UserConversionDialog::BuildFields() {
   names->addWidget(new QLabel(QStringLiteral("->"), this));
   names->addWidget(secondName);
   Content()->addLayout(names);
-  for (const auto& [box, name] : {std::pair(firstName, QStringLiteral("Input unit name")),
-                                  std::pair(secondName, QStringLiteral("Output unit name"))}) {
+  const struct {
+    QLineEdit* box;
+    QString name;
+    QString hint;
+  } unitBoxes[] = {
+      {firstName, QStringLiteral("Input unit name"), QStringLiteral("From unit")},
+      {secondName, QStringLiteral("Output unit name"), QStringLiteral("To unit")},
+  };
+  for (const auto& [box, name, hint] : unitBoxes) {
     box->setObjectName(name);
     box->setAccessibleName(name);
-    box->setPlaceholderText(name);
+    box->setPlaceholderText(hint);
   }
   AddFieldRow(L"Rate", rate);
   for (QLineEdit* const box : {firstName, secondName, rate}) {

@@ -7,6 +7,7 @@
 #include "display/NumberPatterns.h"
 #include "engine/CalcEngine.h"
 #include "engine/ExprParser.h"
+#include "macros/MacroCallText.h"
 
 namespace vexa {
 namespace {
@@ -15,50 +16,15 @@ namespace {
 constexpr std::wstring_view kBeforeCall = L"^+-*/%(";
 constexpr std::wstring_view kBehindCall = L"^+-*/%)";
 
-constexpr std::wstring_view kNameError = L"Macro Name error";
-constexpr std::wstring_view kArgumentError = L"Macro argument error";
-constexpr std::wstring_view kFormulaError = L"Macro formula is invalid";
-
 /// Decimals of a value that is put back into the expression.
 constexpr int kValueDecimals = 6;
 
 constexpr std::size_t kMaxArguments = 3;
 using Arguments = std::array<double, kMaxArguments>;
 
-/// A call without its mark: name, the text between its parentheses, and its length.
-struct Call {
-  std::wstring_view name;
-  std::wstring_view arguments;
-  std::size_t commas = 0;
-  std::size_t length = 0;
-};
-
-/// The call at the front of `text`, which begins behind the mark; none when its parentheses never
-/// close.
-std::optional<Call> ReadCall(std::wstring_view text) {
-  Call call;
-  int depth = 0;
-  std::size_t open = std::wstring_view::npos;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    // Commas count at every depth, and in the name.
-    if (text[i] == L',') ++call.commas;
-    if (text[i] == L'(') {
-      ++depth;
-      if (open == std::wstring_view::npos) open = i;
-    }
-    if (text[i] == L')' && --depth == 0) {
-      call.name = text.substr(0, open);
-      call.arguments = text.substr(open + 1, i - open - 1);
-      call.length = i + 1;
-      return call;
-    }
-  }
-  return std::nullopt;
-}
-
 /// Evaluates the arguments of a call of a macro with `count` arguments; none when one is missing,
 /// left over or no value.
-std::optional<Arguments> EvaluateArguments(const Call& call, std::size_t count,
+std::optional<Arguments> EvaluateArguments(const MacroCallText& call, std::size_t count,
                                            CalcEngine& engine) {
   if (call.commas != count - 1) return std::nullopt;
   Arguments values{};
@@ -95,16 +61,15 @@ class CallEvaluator {
   }
 
   /// The value of `call`, or a sentence in `error`.
-  double Evaluate(const Call& call, std::wstring& error) {
+  double Evaluate(const MacroCallText& call, std::wstring& error) {
     const std::optional<int> index = macros.Find(call.name);
-    if (!index) return error = kNameError, 0.0;
+    if (!index) return error = kMacroNameError, 0.0;
     const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
-    const auto values =
-        EvaluateArguments(call, static_cast<std::size_t>(type) + 1, argumentEngine);
-    if (!values) return error = kArgumentError, 0.0;
+    const auto values = EvaluateArguments(call, static_cast<std::size_t>(type) + 1, argumentEngine);
+    if (!values) return error = kMacroArgumentError, 0.0;
     parser.formulaType = type;
     parser.Validate(macros.ReadFormula(*index));
-    if (!parser.errorText.empty()) return error = kFormulaError, 0.0;
+    if (!parser.errorText.empty()) return error = kMacroFormulaError, 0.0;
     const std::span records(parser.tokens.data(), static_cast<std::size_t>(parser.tokenCount));
     SubstituteVariables(records, *values);
     formulaEngine.LoadTokens(records);
@@ -141,7 +106,7 @@ MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macr
   while (mark != std::wstring_view::npos) {
     expansion.expression += expression.substr(0, mark);
     expression.remove_prefix(mark + kMacroCallMark.size());
-    const std::optional<Call> call = ReadCall(expression);
+    const std::optional<MacroCallText> call = ReadMacroCall(expression);
     if (!call || (call->length < expression.size() &&
                   kBehindCall.find(expression[call->length]) == std::wstring_view::npos)) {
       expansion.error = kExpressionErrorText;

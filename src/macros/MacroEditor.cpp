@@ -65,23 +65,6 @@ void MacroEditor::Delete() {
   selected = std::min(selected, macros.Count() - 1);
 }
 
-MacroEditor::Controls MacroEditor::ShownControls() const {
-  const bool any = macros.Count() > 0;
-  return {.listEnabled = !editing,
-          .fieldsEnabled = editing,
-          .closeShown = !editing,
-          .newShown = !editing && macros.Count() < kMaxMacros,
-          .editShown = !editing && any,
-          .deleteShown = !editing && any,
-          .saveShown = editing,
-          .cancelShown = editing,
-          .memShown = editing};
-}
-
-std::wstring MacroEditor::ListLabel() const {
-  return L"List(" + std::to_wstring(macros.Count()) + L"/" + std::to_wstring(kMaxMacros) + L")";
-}
-
 MacroEditor::Fields MacroEditor::ShownFields() const {
   const int index = editing ? edited : selected;
   if (index < 0) return {};

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "macros/MacroTable.h"
+#include "toolkit/ListEditorView.h"
 
 namespace vexa {
 
@@ -32,19 +33,6 @@ class MacroEditor {
     Field field = Field::Name;
   };
 
-  /// What is shown and enabled.
-  struct Controls {
-    bool listEnabled;
-    bool fieldsEnabled;
-    bool closeShown;
-    bool newShown;
-    bool editShown;
-    bool deleteShown;
-    bool saveShown;
-    bool cancelShown;
-    bool memShown;
-  };
-
   /// Loads the macros from `settingsStore`, which must outlive the editor. Selects the first one.
   explicit MacroEditor(SettingsStore& settingsStore);
 
@@ -68,9 +56,8 @@ class MacroEditor {
   /// Index of the selected macro, -1: none.
   int Selected() const { return selected; }
   bool IsEditing() const { return editing; }
-  Controls ShownControls() const;
-  /// The list's label: List(2/60)
-  std::wstring ListLabel() const;
+  /// What is shown and enabled, and the list's label.
+  ListEditorView View() const { return ViewOfListEditor(editing, macros.Count(), kMaxMacros); }
   /// What the fields show: the new macro's empty fields, or the selected macro.
   Fields ShownFields() const;
 

@@ -1,10 +1,7 @@
 #include "macros/MacroEditorDialog.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
-#include <QSignalBlocker>
 
 #include "display/WideText.h"
 #include "macros/MemoryVariableDialog.h"
@@ -12,30 +9,27 @@
 #include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/LineText.h"
 #include "toolkit/MessageBox.h"
-#include "toolkit/Theme.h"
-#include "toolkit/TouchList.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
 namespace {
 
 constexpr int kOpeningHeight = 480;
-/// A formula of 150 characters is shown whole; on the smallest screens the list goes first.
+/// Room for a formula of 150 characters, which shrinks with the window.
 constexpr int kFormulaHeight = 108;
 constexpr int kFormulaText = 14;
 constexpr int kLeastFormulaHeight = 44;
-constexpr int kLeastListHeight = kTouchHeight + 8;
 
 }  // namespace
 
 MacroEditorDialog::MacroEditorDialog(SettingsStore& settingsStore, QWidget* parent)
-    : Dialog(QStringLiteral("MacroEditor"), parent), store(settingsStore), editor(settingsStore) {
+    : ListEditorDialog(QStringLiteral("MacroEditor"), parent),
+      store(settingsStore),
+      editor(settingsStore) {
   BuildFields();
-  BuildButtons();
+  BuildList({name, type, formula});
   SetOpeningHeight(kOpeningHeight);
-  FillList();
-  Refresh();
-  list->setFocus();
+  ShowViewState();
 }
 
 void MacroEditorDialog::BuildFields() {
@@ -52,61 +46,19 @@ void MacroEditorDialog::BuildFields() {
   formula->setMinimumHeight(kLeastFormulaHeight);
   formula->setMaximumHeight(kFormulaHeight);
   new KeyboardOnFocus(formula);
-  AddField(L"Macro Expression(Max Len:150)", formula, kFormulaHeight);
-  list = new TouchList(this);
-  list->setMinimumHeight(kLeastListHeight);
-  listLabel = AddField(L"List", list, kFormulaHeight);
-  for (QWidget* const field : Fields()) theme::KeepReadable(field);
-  theme::KeepReadable(list);
-  connect(list, &QListWidget::itemSelectionChanged, this, &MacroEditorDialog::SelectMacro);
-}
-
-void MacroEditorDialog::BuildButtons() {
-  QHBoxLayout* const row = AddButtonRow();
-  newButton = AddButton(row, L"New", this, &MacroEditorDialog::New);
-  editButton = AddButton(row, L"Edit", this, &MacroEditorDialog::Edit);
-  deleteButton = AddButton(row, L"Delete", this, &MacroEditorDialog::Delete);
-  closeButton = AddButton(row, L"Close", this, &MacroEditorDialog::reject);
-  memButton = AddButton(row, L"MEM", this, &MacroEditorDialog::RecallVariable);
-  saveButton = AddButton(row, L"Save", this, &MacroEditorDialog::Save);
-  cancelButton = AddButton(row, L"Cancel", this, &MacroEditorDialog::Cancel);
+  AddField(L"Macro Expression(Max Len:150)", formula, 1);
 }
 
 std::array<QWidget*, 3> MacroEditorDialog::Fields() const {
   return {name, type, formula};
 }
 
-void MacroEditorDialog::FillList() {
-  const QSignalBlocker blocker(list);
-  list->clear();
-  const MacroTable& macros = editor.Macros();
-  for (int i = 0; i < macros.Count(); ++i) list->AddLine(FromWide(MacroLine(macros.At(i))));
-  list->SelectRow(editor.Selected());
-}
-
 void MacroEditorDialog::Refresh() {
-  const MacroEditor::Controls controls = editor.ShownControls();
-  list->setEnabled(controls.listEnabled);
-  for (QWidget* const field : Fields()) field->setEnabled(controls.fieldsEnabled);
-  const std::pair<QPushButton*, bool> buttons[] = {
-      {newButton, controls.newShown},       {editButton, controls.editShown},
-      {deleteButton, controls.deleteShown}, {closeButton, controls.closeShown},
-      {memButton, controls.memShown},       {saveButton, controls.saveShown},
-      {cancelButton, controls.cancelShown},
-  };
-  // First those that go: all of them side by side would widen the window.
-  for (const bool shown : {false, true}) {
-    for (const auto& [button, isShown] : buttons) {
-      if (isShown == shown) button->setVisible(shown);
-    }
-  }
-  SetDefault(editor.IsEditing() ? saveButton : closeButton);
-
-  listLabel->setText(FromWide(editor.ListLabel()));
-  const MacroEditor::Fields fields = editor.ShownFields();
-  name->setText(FromWide(fields.name));
-  type->setCurrentIndex(fields.type);
-  formula->setPlainText(FromWide(LineText(fields.formula)));
+  ShowView(editor.View());
+  const MacroEditor::Fields shown = editor.ShownFields();
+  name->setText(FromWide(shown.name));
+  type->setCurrentIndex(shown.type);
+  formula->setPlainText(FromWide(LineText(shown.formula)));
 }
 
 void MacroEditorDialog::New() {
@@ -146,9 +98,14 @@ void MacroEditorDialog::Cancel() {
 }
 
 void MacroEditorDialog::ShowViewState() {
-  FillList();
+  std::vector<std::wstring> lines;
+  lines.reserve(static_cast<std::size_t>(editor.Macros().Count()));
+  for (int i = 0; i < editor.Macros().Count(); ++i) {
+    lines.push_back(MacroLine(editor.Macros().At(i)));
+  }
+  ShowLines(lines, editor.Selected());
   Refresh();
-  list->setFocus();
+  FocusList();
 }
 
 void MacroEditorDialog::RecallVariable() {
@@ -168,14 +125,9 @@ void MacroEditorDialog::InsertVariable(int index) {
   ShowErrorBox(this, std::wstring(tooLong), [this] { formula->setFocus(); });
 }
 
-void MacroEditorDialog::SelectMacro() {
-  editor.Select(list->SelectedRow());
+void MacroEditorDialog::Select(int index) {
+  editor.Select(index);
   Refresh();
-}
-
-void MacroEditorDialog::reject() {
-  if (editor.IsEditing()) return Cancel();
-  QDialog::reject();
 }
 
 }  // namespace vexa

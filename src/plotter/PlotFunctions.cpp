@@ -4,6 +4,7 @@
 
 #include "display/SettingsLayout.h"
 #include "display/ShortenedText.h"
+#include "macros/InlineMacros.h"
 #include "plotter/GraphFunction.h"
 
 namespace vexa {
@@ -57,6 +58,18 @@ void PlotFunctions::Save(const RangeTexts& texts) const {
   history.Save(store);
 }
 
+std::wstring PlotFunctions::Parse(std::size_t position, const std::wstring& text,
+                                  GraphFunction& function) const {
+  MacroTable macros(store);
+  macros.LoadMacroTable();
+  std::wstring error;
+  const std::wstring formula = InlineMacros(text, macros, error);
+  if (!error.empty()) return error;
+  error = ParseGraphFunction(position, formula, function);
+  function.label = GraphLabel(position, text);
+  return error;
+}
+
 PlotterOutcome PlotFunctions::Add(std::wstring_view fieldText) {
   std::wstring text(fieldText);
   std::erase(text, L' ');
@@ -65,7 +78,7 @@ PlotterOutcome PlotFunctions::Add(std::wstring_view fieldText) {
   history.AddHistory(text);
   if (!CanAdd()) return Refusal(std::wstring(kFull) + L" " + std::to_wstring(kCapacity));
   GraphFunction function;
-  std::wstring sentence = ParseGraphFunction(functions.size(), text, function);
+  std::wstring sentence = Parse(functions.size(), text, function);
   if (!sentence.empty()) return Refusal(std::move(sentence));
   if (std::ranges::find(functions, text) != functions.end()) {
     return Refusal(Shortened(text, kAddedText) + std::wstring(kAdded));
@@ -102,7 +115,7 @@ PlotterOutcome PlotFunctions::Plot(std::wstring_view fieldText, const RangeTexts
 
   graph = {.ranges = reading.ranges, .options = options, .angleType = angleType};
   for (std::size_t i = 0; i < functions.size(); ++i) {
-    const std::wstring error = ParseGraphFunction(i, functions[i], graph.functions.emplace_back());
+    const std::wstring error = Parse(i, functions[i], graph.functions.emplace_back());
     if (error.empty()) continue;
     selected = static_cast<int>(i);
     return {.sentence = FunctionRefusal(functions[i], error), .fieldText = functions[i]};

@@ -61,6 +61,9 @@ class PlotFunctions {
   const RangeTexts& StoredRanges() const { return storedRanges; }
 
  private:
+  /// ParseGraphFunction of `text`, in which macros may be called.
+  std::wstring Parse(std::size_t position, const std::wstring& text, GraphFunction& function) const;
+
   SettingsStore& store;
   std::vector<std::wstring> functions;
   int selected = -1;

@@ -49,16 +49,16 @@ PlotterScreen::PlotterScreen(SettingsStore& settingsStore, QWidget* parent)
       store(settingsStore),
       functions(settingsStore),
       list(new TouchComboBox(this)),
-      form(new RangeForm(kLeastBoxHeight, this)),
       lastFocused(Line()) {
   Line()->setObjectName(QStringLiteral("Function"));
   Line()->setAccessibleName(QStringLiteral("Function"));
   Line()->setMinimumHeight(kLeastFieldHeight);
-  form->SetTexts(functions.StoredRanges());
   Content()->addWidget(Line(), kFieldShare);
   BuildList();
+  form = new RangeForm(kLeastBoxHeight, this);
+  form->SetTexts(functions.StoredRanges());
   Content()->addWidget(form, kFormShare);
-  Content()->addWidget(Keys(), kKeypadShare);
+  PlaceKeypad(kKeypadShare);
 
   AddFileCommand(QStringLiteral("&Config..."), this, &PlotterScreen::Configure);
   BuildEditMenu();
@@ -68,6 +68,8 @@ PlotterScreen::PlotterScreen(SettingsStore& settingsStore, QWidget* parent)
 }
 
 PlotterScreen::~PlotterScreen() {
+  // The focus leaves the boxes when they go.
+  qApp->disconnect(this);
   functions.Save(form->Texts());
 }
 

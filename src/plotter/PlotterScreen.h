@@ -59,7 +59,7 @@ class PlotterScreen : public ExpressionScreen {
   TouchComboBox* list;
   QPushButton* addButton = nullptr;
   QPushButton* deleteButton = nullptr;
-  RangeForm* form;
+  RangeForm* form = nullptr;
   /// The field or range box that had the focus last.
   QWidget* lastFocused;
 };

@@ -286,7 +286,7 @@ void StatisticsScreen::ShowResult(std::wstring_view caption) {
 }
 
 void StatisticsScreen::OpenMemoryMenu() {
-  constexpr std::pair<MemoryCommand, void (StatisticsScreen::*)()> kCommands[] = {
+  static constexpr std::pair<MemoryCommand, void (StatisticsScreen::*)()> kCommands[] = {
       {MemoryCommand::RecallVariable, &StatisticsScreen::RecallVariable},
       {MemoryCommand::StoreVariable, &StatisticsScreen::StoreVariable},
   };

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <QVBoxLayout>
 #include <utility>
 #include <vector>
 
@@ -21,11 +22,13 @@ const ExpressionScreen::EditingKey ExpressionScreen::kEditingKeys[] = {
 };
 
 ExpressionScreen::ExpressionScreen(Mode mode, std::span<const Key> keyTable, QWidget* parent)
-    : ModeScreen(mode, parent),
-      keys(keyTable),
-      line(new EditLine(this)),
-      keypad(new Keypad(keyTable, this)) {
+    : ModeScreen(mode, parent), keys(keyTable), line(new EditLine(this)) {
   setFocusProxy(line);
+}
+
+void ExpressionScreen::PlaceKeypad(int stretch) {
+  keypad = new Keypad(keys, this);
+  Content()->addWidget(keypad, stretch);
   connect(keypad, &Keypad::KeyPressed, this, &ExpressionScreen::PressKey);
 }
 

@@ -23,7 +23,7 @@ class ExpressionScreen : public ModeScreen {
   Q_OBJECT
 
  protected:
-  /// `keys` must outlive the screen. The line and the keypad are still to be placed.
+  /// `keys` must outlive the screen. The line is still to be placed.
   ExpressionScreen(Mode mode, std::span<const Key> keys, QWidget* parent);
 
   /// The rule state that decides which keys are shown and enabled.
@@ -31,6 +31,9 @@ class ExpressionScreen : public ModeScreen {
   /// Runs the command of the key with this caption, which inserts nothing.
   virtual void RunKey(std::wstring_view caption) = 0;
 
+  /// Makes the keypad, below the controls that have been placed and after those that have been made:
+  /// the Tab key goes this way, too.
+  void PlaceKeypad(int stretch);
   /// Adds the "Edit" menu, whose commands work on the line. While `result` has the focus, Copy
   /// takes what is selected there.
   void BuildEditMenu(ResultLine* result = nullptr);
@@ -61,7 +64,7 @@ class ExpressionScreen : public ModeScreen {
 
   std::span<const Key> keys;
   EditLine* line;
-  Keypad* keypad;
+  Keypad* keypad = nullptr;
   bool shifted = false;
 };
 

@@ -54,10 +54,7 @@ KeyButton::KeyButton(const Key& shownKey, QWidget* parent) : QPushButton(parent)
   setAutoRepeat(key.autoRepeat);
   setAutoDefault(false);
   setFocusPolicy(Qt::TabFocus);
-  // A hidden key keeps its cell, so that no key moves when others come and go.
-  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  policy.setRetainSizeWhenHidden(true);
-  setSizePolicy(policy);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 QSize KeyButton::sizeHint() const {

@@ -112,6 +112,12 @@ void ShowAsNotice(QWidget* label) {
   label->setPalette(colours);
 }
 
+QPalette IndicatorPalette(const QPalette& palette) {
+  QPalette colours = palette;
+  if (IsDark(palette)) colours.setColor(QPalette::Base, QColor(0x74, 0x77, 0x7E));
+  return colours;
+}
+
 QFont ProgramFont(const QFont& base) {
   // The toolkit takes the first family that exists.
   QFont font(base);

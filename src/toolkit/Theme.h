@@ -39,6 +39,10 @@ void ShowOnAmber(QWidget* field);
 /// Draws `label` as a quiet notice of something that is not right yet.
 void ShowAsNotice(QWidget* label);
 
+/// The colours in which a radio button or check box beside `palette`'s window has an edge that can
+/// be seen: on a dark window the circle or square is lighter.
+QPalette IndicatorPalette(const QPalette& palette);
+
 /// `base`, the desktop's own font, in "Tahoma" where that exists.
 QFont ProgramFont(const QFont& base);
 

@@ -3,6 +3,7 @@
 #include <QStyleOptionMenuItem>
 #include <algorithm>
 
+#include "toolkit/Theme.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
@@ -32,6 +33,18 @@ QRect TouchStyle::subElementRect(SubElement element, const QStyleOption* option,
                                  const QWidget* widget) const {
   if (element == SE_RadioButtonClickRect || element == SE_CheckBoxClickRect) return option->rect;
   return QProxyStyle::subElementRect(element, option, widget);
+}
+
+void TouchStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+  const bool isIndicator = element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox;
+  const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (!isIndicator || !button) {
+    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+  QStyleOptionButton visible(*button);
+  visible.palette = theme::IndicatorPalette(button->palette);
+  QProxyStyle::drawPrimitive(element, &visible, painter, widget);
 }
 
 }  // namespace vexa

@@ -16,6 +16,8 @@ class TouchStyle : public QProxyStyle {
   /// Radio buttons and check boxes are hit anywhere on their row.
   QRect subElementRect(SubElement element, const QStyleOption* option,
                        const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
 };
 
 }  // namespace vexa

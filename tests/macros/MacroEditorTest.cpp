@@ -35,7 +35,7 @@ class MacroEditorTest : public testing::Test {
 
 TEST_F(MacroEditorTest, EmptyTableShowsNewAndCloseOnly) {
   const MacroEditor editor(store);
-  const MacroEditor::Controls controls = editor.ShownControls();
+  const ListEditorView controls = editor.View();
   EXPECT_TRUE(controls.listEnabled);
   EXPECT_TRUE(controls.closeShown);
   EXPECT_TRUE(controls.newShown);
@@ -44,19 +44,19 @@ TEST_F(MacroEditorTest, EmptyTableShowsNewAndCloseOnly) {
   EXPECT_FALSE(controls.deleteShown);
   EXPECT_FALSE(controls.saveShown);
   EXPECT_FALSE(controls.cancelShown);
-  EXPECT_FALSE(controls.memShown);
+  EXPECT_FALSE(controls.memoryShown);
   EXPECT_EQ(editor.Selected(), -1);
-  EXPECT_EQ(editor.ListLabel(), L"List(0/60)");
+  EXPECT_EQ(editor.View().listLabel, L"List(0/60)");
   EXPECT_TRUE(editor.ShownFields().name.empty());
 }
 
 TEST_F(MacroEditorTest, EditingShowsSaveCancelAndMem) {
   StoreMacros(2);
   MacroEditor editor(store);
-  EXPECT_TRUE(editor.ShownControls().editShown);
-  EXPECT_TRUE(editor.ShownControls().deleteShown);
+  EXPECT_TRUE(editor.View().editShown);
+  EXPECT_TRUE(editor.View().deleteShown);
   editor.Edit();
-  const MacroEditor::Controls controls = editor.ShownControls();
+  const ListEditorView controls = editor.View();
   EXPECT_FALSE(controls.listEnabled);
   EXPECT_FALSE(controls.closeShown);
   EXPECT_FALSE(controls.newShown);
@@ -65,14 +65,14 @@ TEST_F(MacroEditorTest, EditingShowsSaveCancelAndMem) {
   EXPECT_TRUE(controls.fieldsEnabled);
   EXPECT_TRUE(controls.saveShown);
   EXPECT_TRUE(controls.cancelShown);
-  EXPECT_TRUE(controls.memShown);
+  EXPECT_TRUE(controls.memoryShown);
 }
 
 TEST_F(MacroEditorTest, FullTable) {
   StoreMacros(60);
   MacroEditor editor(store);
-  EXPECT_EQ(editor.ListLabel(), L"List(60/60)");
-  EXPECT_FALSE(editor.ShownControls().newShown);
+  EXPECT_EQ(editor.View().listLabel, L"List(60/60)");
+  EXPECT_FALSE(editor.View().newShown);
   editor.Edit();
   // The maximum is checked before anything else, an empty name included.
   const MacroEditor::Refusal refusal = editor.Save({});
@@ -143,7 +143,7 @@ TEST_F(MacroEditorTest, NewMacroIsStoredTrimmedAndSelected) {
   EXPECT_EQ(Read(store, settings::kMacroType, 2), L"TYPE2 : F(X,Y)");
   EXPECT_EQ(StoredFormula(2), L"x*y");
   EXPECT_EQ(MacroLine(editor.Macros().At(2)), L"area(X,Y)");
-  EXPECT_EQ(editor.ListLabel(), L"List(3/60)");
+  EXPECT_EQ(editor.View().listLabel, L"List(3/60)");
 }
 
 TEST_F(MacroEditorTest, NamesDifferByCase) {

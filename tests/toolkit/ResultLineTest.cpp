@@ -15,6 +15,8 @@ class ResultLineTest : public QObject {
   void EveryTextIsWhole_data();
   void EveryTextIsWhole();
   void ShortTextsAreLarge();
+  void SeveralLinesAreLarge();
+  void SeveralLongLinesAreWhole();
   void TheTextFollowsTheSize();
   void CanBeSelectedAndCopied();
   void CannotBeEdited();
@@ -75,6 +77,32 @@ void ResultLineTest::ShortTextsAreLarge() {
   QVERIFY(line.document()->defaultFont().pixelSize() >= 11);
   line.ShowText(QStringLiteral("1"));
   QCOMPARE(line.document()->defaultFont().pixelSize(), large);
+}
+
+void ResultLineTest::SeveralLinesAreLarge() {
+  ResultLine line(nullptr);
+  line.resize(232, 110);
+  line.show();
+  line.ShowText(QStringLiteral("25 Celsius\r\n=\r\n77 Fahrenheit"));
+  QCOMPARE(line.toPlainText(), QStringLiteral("25 Celsius\n=\n77 Fahrenheit"));
+  QVERIFY(line.document()->defaultFont().pixelSize() >= 18);
+}
+
+void ResultLineTest::SeveralLongLinesAreWhole() {
+  ResultLine line(nullptr);
+  line.resize(232, 60);
+  line.show();
+  const QString name = QStringLiteral(" imperial fluid ounces of the best maple syrup");
+  line.ShowText(QStringLiteral("123,456.789") + name + QStringLiteral("\n=\n1") + name);
+  qreal height = 0;
+  for (QTextBlock block = line.document()->begin(); block.isValid(); block = block.next()) {
+    for (int n = 0; n < block.layout()->lineCount(); ++n) {
+      height += block.layout()->lineAt(n).height();
+      QVERIFY(block.layout()->lineAt(n).naturalTextWidth() <= line.viewport()->width());
+    }
+  }
+  QVERIFY(height > 0);
+  QVERIFY(height <= line.viewport()->height());
 }
 
 void ResultLineTest::TheTextFollowsTheSize() {

@@ -48,8 +48,10 @@ class ThemeTest : public QObject {
   void FollowsTheWindowColour();
   void TextsCanBeRead();
   void RolesDiffer();
+  void TheConvertersButtonsKeepTheirColours();
   void WhatIsDisabledCanBeRead();
   void LightBlueIsTheSameInDark();
+  void IndicatorsCanBeSeenInDark();
   void AKeyFollowsAChangeOfThePalette();
   void TheFocusIsVisible();
   void TheFontIsTahomaOrTheDesktops();
@@ -72,6 +74,20 @@ void ThemeTest::TextsCanBeRead() {
       QVERIFY2(Contrast(colours.text, colours.pressedFace) >= 4.5, name);
       QVERIFY2(Contrast(colours.disabledText, colours.face) >= 2, name);
     }
+  }
+}
+
+void ThemeTest::TheConvertersButtonsKeepTheirColours() {
+  for (const QColor& window : {kLightWindow, kDarkWindow}) {
+    const theme::KeyColours& pale = theme::ColoursOf(KeyRole::Pale, PaletteOf(window));
+    QCOMPARE(pale.face, QColor(222, 231, 255));
+    QVERIFY(Contrast(pale.text, pale.face) >= 4.5);
+    QVERIFY(Contrast(pale.text, pale.pressedFace) >= 4.5);
+    // Both colours are given; the bold text makes up for their contrast.
+    const theme::KeyColours& memory = theme::ColoursOf(KeyRole::Memory, PaletteOf(window));
+    QCOMPARE(memory.face, QColor(255, 128, 0));
+    QCOMPARE(memory.text, QColor(0, 0, 255));
+    QVERIFY(Contrast(memory.text, memory.face) >= 3);
   }
 }
 
@@ -110,6 +126,16 @@ void ThemeTest::LightBlueIsTheSameInDark() {
     QCOMPARE(label.grab().toImage().pixelColor(1, 1), QColor(222, 231, 255));
     QVERIFY(Contrast(label.palette().color(QPalette::WindowText), QColor(222, 231, 255)) >= 4.5);
   }
+}
+
+void ThemeTest::IndicatorsCanBeSeenInDark() {
+  const QPalette dark = PaletteOf(kDarkWindow);
+  const QPalette indicator = theme::IndicatorPalette(dark);
+  const QColor circle = indicator.color(QPalette::Base);
+  QVERIFY(Contrast(circle, kDarkWindow) >= 3);
+  QVERIFY(Contrast(indicator.color(QPalette::Text), circle) >= 4);
+  // In light colours the desktop's own circle has an edge.
+  QCOMPARE(theme::IndicatorPalette(PaletteOf(kLightWindow)), PaletteOf(kLightWindow));
 }
 
 void ThemeTest::AKeyFollowsAChangeOfThePalette() {

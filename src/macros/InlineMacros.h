@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "macros/MacroTable.h"
+
+namespace vexa {
+
+/// `formula` with every macro call replaced by the macro's own formula, the call's arguments in the
+/// places of its variables: what the calls stand for at any value of the formula's variables. An
+/// engine checks the outcome. A call that cannot be read stores its sentence in `error`.
+std::wstring InlineMacros(std::wstring_view formula, const MacroTable& macros, std::wstring& error);
+
+}  // namespace vexa

@@ -1,0 +1,259 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QSignalSpy>
+
+#include "support/Boxes.h"
+#include "support/ConverterOnScreen.h"
+#include "support/ScreenMain.h"
+#include "toolkit/KeyboardOnFocus.h"
+
+namespace vexa {
+namespace {
+
+constexpr int kLength = 6;
+constexpr int kTemperature = 11;
+constexpr int kUserDefine = 14;
+constexpr ConverterPositions kKilometersToMeters{kLength, 14, 16};
+constexpr int kFingerHeight = 30;
+constexpr QSize kSmallestScreen(240, 320);
+
+QString ClipboardText() {
+  return QGuiApplication::clipboard()->text();
+}
+
+}  // namespace
+
+/// The converter by keyboard, menus and finger.
+class UnitConverterKeysTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup() { delete screen.dialog; }
+  void TypingFindsUnits_data();
+  void TypingFindsUnits();
+  void TypingFindsACategoryByItsName();
+  void TypingFindsUnitsInTheOpenList();
+  void TabFollowsTheLayout_data();
+  void TabFollowsTheLayout();
+  void EnterIsOk_data();
+  void EnterIsOk();
+  void EscapeIsCancel();
+  void EditCommandsActOnTheInputField();
+  void ShortcutsEditTheInputField();
+  void TheResultCanBeCopied();
+  void EditUnitConvertOpensTheEditor();
+  void TheFieldRaisesTheKeyboard();
+  void EveryControlHasAName();
+  void TargetsAreLargeEnough();
+  void FitsTheSmallestScreen_data();
+  void FitsTheSmallestScreen();
+
+ private:
+  test::ConverterOnScreen screen;
+};
+
+void UnitConverterKeysTest::init() {
+  screen.store = MemorySettingsStore();
+}
+
+void UnitConverterKeysTest::TypingFindsUnits_data() {
+  QTest::addColumn<QString>("typed");
+  QTest::addColumn<QString>("unit");
+  QTest::newRow("beginning") << QStringLiteral("ya") << QStringLiteral("Yards");
+  QTest::newRow("capitals") << QStringLiteral("MICROM") << QStringLiteral("Micrometers");
+  QTest::newRow("two words") << QStringLiteral("light y") << QStringLiteral("Light years");
+  QTest::newRow("a later word") << QStringLiteral("years") << QStringLiteral("Light years");
+  QTest::newRow("no unit") << QStringLiteral("qq") << QStringLiteral("Kilometers");
+}
+
+void UnitConverterKeysTest::TypingFindsUnits() {
+  QFETCH(QString, typed);
+  QFETCH(QString, unit);
+  screen.Open(kKilometersToMeters);
+  screen.inputUnit->setFocus();
+  QTest::keyClicks(screen.inputUnit, typed);
+  QCOMPARE(screen.inputUnit->currentText(), unit);
+  QCOMPARE(screen.dialog->Converter().Positions().input, screen.inputUnit->currentIndex());
+}
+
+void UnitConverterKeysTest::TypingFindsACategoryByItsName() {
+  screen.Open({});
+  QTest::keyClicks(screen.category, QStringLiteral("temp"));
+  QCOMPARE(screen.category->currentText(), QStringLiteral("12. Temperature"));
+  QVERIFY(screen.block->isVisible());
+  QTest::qWait(QApplication::keyboardInputInterval() + 50);
+  QTest::keyClicks(screen.category, QStringLiteral("07"));
+  QCOMPARE(screen.category->currentText(), QStringLiteral("07. Length"));
+}
+
+void UnitConverterKeysTest::TypingFindsUnitsInTheOpenList() {
+  screen.Open(kKilometersToMeters, L"1");
+  QTest::mouseClick(screen.outputUnit, Qt::LeftButton);
+  QTRY_VERIFY(screen.outputUnit->view()->isVisible());
+  QTest::keyClicks(screen.outputUnit->view(), QStringLiteral("inch"));
+  QTest::keyClick(screen.outputUnit->view(), Qt::Key_Return);
+  QCOMPARE(screen.outputUnit->currentText(), QStringLiteral("Inches"));
+  QCOMPARE(screen.line->toPlainText(), QStringLiteral("39,370.0787401575"));
+}
+
+void UnitConverterKeysTest::TabFollowsTheLayout_data() {
+  QTest::addColumn<int>("category");
+  QTest::addColumn<QStringList>("names");
+  const QStringList start{QStringLiteral("Input value"), QStringLiteral("Input unit")};
+  const QStringList end{QStringLiteral("Unit Converter"), QStringLiteral("OK"),
+                        QStringLiteral("Cancel"), QStringLiteral("MEM"),
+                        QStringLiteral("Input value")};
+  QTest::newRow("factors") << kLength
+                           << start +
+                                  QStringList{QStringLiteral("Output value"),
+                                              QStringLiteral("Output unit")} +
+                                  end;
+  QTest::newRow("single list") << kTemperature
+                               << start + QStringList{QStringLiteral("Output block")} + end;
+}
+
+void UnitConverterKeysTest::TabFollowsTheLayout() {
+  QFETCH(int, category);
+  QFETCH(QStringList, names);
+  screen.Open({category, 0, 0});
+  QStringList reached{QApplication::focusWidget()->objectName()};
+  while (reached.size() < names.size()) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    reached += QApplication::focusWidget()->objectName();
+  }
+  QCOMPARE(reached, names);
+}
+
+void UnitConverterKeysTest::EnterIsOk_data() {
+  QTest::addColumn<QString>("focus");
+  for (const char* name :
+       {"Input value", "Input unit", "Output value", "Unit Converter", "OK", "Cancel"}) {
+    QTest::newRow(name) << QString::fromLatin1(name);
+  }
+}
+
+void UnitConverterKeysTest::EnterIsOk() {
+  QFETCH(QString, focus);
+  screen.Open(kKilometersToMeters);
+  QVERIFY(screen.Find<QPushButton>("OK")->isDefault());
+  auto* const widget = screen.dialog->findChild<QWidget*>(focus);
+  widget->setFocus();
+  QSignalSpy accepted(screen.dialog, &QDialog::accepted);
+  QTest::keyClick(widget, Qt::Key_Return);
+  QCOMPARE(accepted.count(), 1);
+}
+
+void UnitConverterKeysTest::EscapeIsCancel() {
+  screen.Open(kKilometersToMeters);
+  QSignalSpy rejected(screen.dialog, &QDialog::rejected);
+  QTest::keyClick(screen.input, Qt::Key_Escape);
+  QCOMPARE(rejected.count(), 1);
+}
+
+void UnitConverterKeysTest::EditCommandsActOnTheInputField() {
+  screen.Open(kKilometersToMeters, L"12.5");
+  screen.outputUnit->setFocus();
+  screen.input->setSelection(0, 2);
+  screen.Command("Edit", "Copy")->trigger();
+  QCOMPARE(ClipboardText(), QStringLiteral("12"));
+  screen.input->selectAll();
+  screen.Command("Edit", "Cut")->trigger();
+  QCOMPARE(ClipboardText(), QStringLiteral("12.5"));
+  QVERIFY(screen.input->text().isEmpty());
+  screen.Command("Edit", "Paste")->trigger();
+  QCOMPARE(screen.input->text(), QStringLiteral("12.5"));
+  QCOMPARE(screen.line->toPlainText(), QStringLiteral("12,500"));
+}
+
+void UnitConverterKeysTest::ShortcutsEditTheInputField() {
+  screen.Open(kKilometersToMeters, L"12.5");
+  QTest::keyClick(screen.input, Qt::Key_X, Qt::ControlModifier);
+  QCOMPARE(ClipboardText(), QStringLiteral("12.5"));
+  QTest::keyClick(screen.input, Qt::Key_V, Qt::ControlModifier);
+  QTest::keyClick(screen.input, Qt::Key_V, Qt::ControlModifier);
+  QCOMPARE(screen.input->text(), QStringLiteral("12.512.5"));
+}
+
+void UnitConverterKeysTest::TheResultCanBeCopied() {
+  screen.Open(kKilometersToMeters, L"1.5");
+  for (ResultLine* const output : {screen.line, screen.block}) {
+    if (output == screen.block) test::ChooseRow(screen.category, kTemperature);
+    output->setFocus();
+    QTest::keyClick(output, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(output, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(ClipboardText(), output->toPlainText());
+  }
+}
+
+void UnitConverterKeysTest::EditUnitConvertOpensTheEditor() {
+  screen.Open(kKilometersToMeters);
+  screen.Command("File", "Edit Unit Convert")->trigger();
+  QDialog* const editor = test::OpenDialog(QStringLiteral("UserConversions"));
+  QVERIFY(editor);
+  test::AddConversion(screen.store, L"Inch -> Centimeter", L"2.54");
+  QTest::keyClick(editor, Qt::Key_Escape);
+  QTRY_VERIFY(screen.input->hasFocus());
+  QCOMPARE(screen.line->toPlainText(), QStringLiteral("1,000"));
+  test::ChooseRow(screen.category, kUserDefine);
+  QCOMPARE(screen.block->toPlainText(), QStringLiteral("1 Inch\n=\n2.54 Centimeter"));
+}
+
+void UnitConverterKeysTest::TheFieldRaisesTheKeyboard() {
+  screen.Open(kKilometersToMeters);
+  screen.category->setFocus();
+  QSignalSpy asked(screen.input->findChild<KeyboardOnFocus*>(), &KeyboardOnFocus::Asked);
+  screen.ChooseMemory("Memory Recall");
+  QCOMPARE(asked.count(), 0);
+  screen.input->setFocus();
+  QCOMPARE(asked.count(), 1);
+  QCOMPARE(asked.last().first().toBool(), true);
+}
+
+void UnitConverterKeysTest::EveryControlHasAName() {
+  screen.Open(kKilometersToMeters);
+  int controls = 0;
+  for (const QWidget* const widget : screen.dialog->findChildren<QWidget*>()) {
+    if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus)) continue;
+    QVERIFY(!widget->objectName().isEmpty());
+    QVERIFY2(!widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
+    ++controls;
+  }
+  QCOMPARE(controls, 8);
+}
+
+void UnitConverterKeysTest::TargetsAreLargeEnough() {
+  screen.Open(kKilometersToMeters);
+  for (const char* name : {"Unit Converter", "OK", "Cancel", "MEM", "Input value", "Input unit",
+                           "Output value", "Output unit"}) {
+    QVERIFY2(screen.Find<QWidget>(name)->height() >= kFingerHeight, name);
+  }
+  screen.outputUnit->showPopup();
+  QTRY_VERIFY(screen.outputUnit->view()->isVisible());
+  QAbstractItemView* const list = screen.outputUnit->view();
+  QVERIFY(list->visualRect(list->currentIndex()).height() >= kFingerHeight);
+  screen.outputUnit->hidePopup();
+}
+
+void UnitConverterKeysTest::FitsTheSmallestScreen_data() {
+  QTest::addColumn<int>("category");
+  QTest::newRow("factors") << kLength;
+  QTest::newRow("single list") << kTemperature;
+}
+
+void UnitConverterKeysTest::FitsTheSmallestScreen() {
+  QFETCH(int, category);
+  screen.Open({category, 0, 0});
+  screen.dialog->resize(kSmallestScreen);
+  QCOMPARE(screen.dialog->size(), kSmallestScreen);
+  for (const QWidget* const widget : screen.dialog->findChildren<QWidget*>()) {
+    if (!widget->isVisible() || widget->isWindow()) continue;
+    const QRect place(widget->mapTo(screen.dialog, QPoint()), widget->size());
+    QVERIFY2(screen.dialog->rect().contains(place), qPrintable(widget->objectName()));
+  }
+}
+
+}  // namespace vexa
+
+VEXA_SCREEN_MAIN(vexa::UnitConverterKeysTest)
+#include "UnitConverterKeysTest.moc"

@@ -1,0 +1,60 @@
+#include "macros/InlineMacros.h"
+
+#include <gtest/gtest.h>
+
+#include "display/MemorySettingsStore.h"
+
+namespace vexa {
+namespace {
+
+class InlineMacrosTest : public testing::Test {
+ protected:
+  InlineMacrosTest() : macros(store) {
+    macros.AddMacro(L"sq", L"TYPE1 : F(X)", L"x^2");
+    macros.AddMacro(L"area", L"TYPE2 : F(X,Y)", L"X*y+exp(y)");
+    macros.AddMacro(L"vol", L"TYPE3 : F(X,Y,Z)", L"x*y*z");
+  }
+  std::wstring Inlined(std::wstring_view formula) { return InlineMacros(formula, macros, error); }
+
+  MemorySettingsStore store;
+  MacroTable macros;
+  std::wstring error;
+};
+
+TEST_F(InlineMacrosTest, CallsBecomeFormulas) {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+      {L"", L""},
+      {L"x+1", L"x+1"},
+      {L"M:sq(x)", L"((x)^2)"},
+      {L"2*M:sq(x+1)-M:sq(3)", L"2*((x+1)^2)-((3)^2)"},
+      {L"M:area(x,2)", L"((x)*(2)+exp((2)))"},
+      {L"M:vol(1,x, x )", L"((1)*(x)*( x ))"},
+      {L"M:sq((x))", L"(((x))^2)"},
+      {L"2M:sq(x)3", L"2((x)^2)3"},
+  };
+  for (const auto& [formula, text] : cases) {
+    EXPECT_EQ(Inlined(formula), text);
+    EXPECT_EQ(error, L"");
+  }
+}
+
+TEST_F(InlineMacrosTest, CallsThatCannotBeReadAreRefused) {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+      {L"M:", L"Expression error."},
+      {L"M:sq", L"Expression error."},
+      {L"M:sq(x", L"Expression error."},
+      {L"M:Sq(x)", L"Macro Name error"},
+      {L"M:(x)", L"Macro Name error"},
+      {L"M:sq(x,1)", L"Macro argument error"},
+      {L"M:area(x)", L"Macro argument error"},
+      {L"M:vol(x,x)", L"Macro argument error"},
+      {L"x+M:sq(x)+M:none(x)", L"Macro Name error"},
+  };
+  for (const auto& [formula, sentence] : cases) {
+    Inlined(formula);
+    EXPECT_EQ(error, sentence);
+  }
+}
+
+}  // namespace
+}  // namespace vexa

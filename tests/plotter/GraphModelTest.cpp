@@ -1,0 +1,395 @@
+#include "plotter/GraphModel.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "plotter/Graphs.h"
+
+namespace vexa {
+namespace {
+
+using test::Graph;
+using test::Opened;
+
+/// A command and what it makes of -10 to 10.
+struct Change {
+  std::wstring (GraphModel::*run)();
+  PlotRanges after;
+};
+
+constexpr PlotRanges kHome{-10, 10, -10, 10};
+
+TEST(GraphModel, OpensAtHome) {
+  const GraphModel graph = Opened(Graph({L"x+1", L"sqrt(x-1)", L"2*x"}));
+  EXPECT_EQ(graph.Ranges(), kHome);
+  EXPECT_TRUE(graph.IsAtHome());
+  EXPECT_TRUE(graph.IsTracing());
+  EXPECT_FALSE(graph.Drag().IsShown());
+  EXPECT_EQ(graph.xBox, L"0");
+  EXPECT_EQ(graph.SelectedFunction(), 0);
+  EXPECT_EQ(graph.SelectedReadOut(), 0);
+  EXPECT_EQ(graph.LastError(), L"");
+  ASSERT_EQ(graph.ReadOuts().size(), 3u);
+  EXPECT_EQ(graph.ReadOutLine(0), L"R:F1(X) = 1");
+  EXPECT_EQ(graph.ReadOutLine(1), L"G:F2(X) = Out of range");
+  EXPECT_EQ(graph.ReadOutLine(2), L"B:F3(X) = 0");
+  EXPECT_EQ(graph.Labels(),
+            (std::vector<std::wstring>{L"x min=-10", L"x max=10", L"y min=-10", L"y max=10"}));
+}
+
+TEST(GraphModel, OpensWithoutFunctionsAndWithTooMany) {
+  EXPECT_TRUE(Opened(Graph({})).ReadOuts().empty());
+  EXPECT_EQ(Opened(Graph({L"x", L"x+1", L"x+2", L"x+3"})).Functions().size(), 3u);
+}
+
+TEST(GraphModel, CommandsMoveTheBounds) {
+  const Change changes[] = {
+      {&GraphModel::ZoomIn, {-6, 6, -6, 6}},      {&GraphModel::ZoomOut, {-14, 14, -14, 14}},
+      {&GraphModel::MoveLeft, {-14, 6, -10, 10}}, {&GraphModel::MoveRight, {-6, 14, -10, 10}},
+      {&GraphModel::MoveUp, {-10, 10, -6, 14}},   {&GraphModel::MoveDown, {-10, 10, -14, 6}},
+  };
+  for (const Change& change : changes) {
+    GraphModel graph = Opened(Graph({L"x"}));
+    EXPECT_EQ((graph.*change.run)(), L"");
+    EXPECT_EQ(graph.Ranges(), change.after);
+    EXPECT_FALSE(graph.IsAtHome());
+    EXPECT_EQ(graph.Undo(), L"");
+    EXPECT_EQ(graph.Ranges(), kHome);
+    EXPECT_FALSE(graph.IsAtHome());
+  }
+}
+
+TEST(GraphModel, ZoomOutDoesNotUndoZoomIn) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  graph.ZoomIn();
+  graph.ZoomOut();
+  EXPECT_EQ(graph.Ranges().xMin, -8.4);
+  EXPECT_EQ(graph.Ranges().xMax, 8.4);
+}
+
+TEST(GraphModel, EveryChangeSamplesAndLabels) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  const PixelPoint before = graph.Samples().curves[0][0].pixel;
+  graph.MoveUp();
+  EXPECT_NE(graph.Samples().curves[0][0].pixel, before);
+  EXPECT_EQ(graph.Labels()[3], L"y max=14");
+}
+
+TEST(GraphModel, ResetAtHomeDoesNothing) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  EXPECT_EQ(graph.Reset(), L"");
+  EXPECT_TRUE(graph.IsAtHome());
+  graph.ZoomIn();
+  graph.ZoomIn();
+  EXPECT_EQ(graph.Reset(), L"");
+  EXPECT_EQ(graph.Ranges(), kHome);
+  EXPECT_TRUE(graph.IsAtHome());
+  EXPECT_EQ(graph.Labels()[0], L"x min=-10");
+}
+
+TEST(GraphModel, UndoAfterResetDoesNothing) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  EXPECT_EQ(graph.Undo(), L"");
+  EXPECT_EQ(graph.Ranges(), kHome);
+  graph.ZoomIn();
+  graph.Reset();
+  EXPECT_EQ(graph.Undo(), L"");
+  EXPECT_EQ(graph.Ranges(), kHome);
+}
+
+TEST(GraphModel, ASecondUndoChangesNothing) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  graph.ZoomIn();
+  graph.MoveRight();
+  graph.Undo();
+  const PlotRanges first = graph.Ranges();
+  EXPECT_EQ(first, (PlotRanges{-6, 6, -6, 6}));
+  graph.Undo();
+  EXPECT_EQ(graph.Ranges(), first);
+}
+
+TEST(GraphModel, EqualBoundsAreRefused) {
+  // A range that runs off the numbers ends with both bounds infinite.
+  GraphData data = Graph({L"x"}, {1e308, 1.7e308, -1, 1});
+  data.options.coordinates = false;
+  GraphModel x = Opened(data);
+  EXPECT_EQ(x.MoveRight(), L"");
+  const PlotRanges before = x.Ranges();
+  EXPECT_TRUE(std::isinf(before.xMax));
+  EXPECT_EQ(x.MoveRight(), L"Can not draw graph(X min = X max)");
+  EXPECT_EQ(x.Ranges(), before);
+  EXPECT_EQ(x.Undo(), L"");
+  EXPECT_EQ(x.Ranges(), data.ranges);
+
+  data.ranges = {-1, 1, -1.7e308, -1e308};
+  GraphModel y = Opened(data);
+  EXPECT_EQ(y.MoveDown(), L"");
+  EXPECT_EQ(y.MoveDown(), L"Can not draw graph(Y min = Y max)");
+}
+
+TEST(GraphModel, NeighbouringBoundsStayApart) {
+  GraphModel graph = Opened(Graph({L"x"}, {1.0, std::nextafter(1.0, 2.0), -1, 1}));
+  for (int n = 0; n < 100; ++n) EXPECT_EQ(graph.ZoomIn(), L"");
+  EXPECT_LT(graph.Ranges().xMin, graph.Ranges().xMax);
+}
+
+TEST(GraphModel, ARefusedCommandLeavesThePreviousRanges) {
+  GraphModel graph = Opened(Graph({L"x"}, {-1, 1, -1.2e308, 1.2e308}));
+  EXPECT_EQ(graph.MoveRight(), L"");
+  const PlotRanges before = graph.Ranges();
+  EXPECT_EQ(graph.ZoomOut(), L"Out of range(overflow or underflow)");
+  EXPECT_EQ(graph.LastError(), L"Out of range(overflow or underflow)");
+  EXPECT_EQ(graph.Ranges(), before);
+  EXPECT_EQ(graph.Labels()[0], L"x min=-0.6");
+  EXPECT_EQ(graph.Undo(), L"");
+  EXPECT_EQ(graph.LastError(), L"");
+  EXPECT_EQ(graph.Ranges().xMin, -1);
+}
+
+TEST(GraphModel, ARefusalAtHomeStaysAtHome) {
+  GraphModel graph = Opened(Graph({L"x"}, {-1, 1, -1.7e308, 1.7e308}));
+  EXPECT_EQ(graph.ZoomOut(), L"Out of range(overflow or underflow)");
+  EXPECT_TRUE(graph.IsAtHome());
+  EXPECT_EQ(graph.Ranges().yMax, 1.7e308);
+}
+
+TEST(GraphModel, TwoThousandZoomsAreHarmless) {
+  for (const bool coordinates : {true, false}) {
+    for (const auto command :
+         {&GraphModel::ZoomIn, &GraphModel::ZoomOut, &GraphModel::MoveLeft, &GraphModel::MoveUp}) {
+      GraphData data = Graph({L"x^3-x", L"1/x", L"x!"});
+      data.options.coordinates = coordinates;
+      GraphModel graph = Opened(data);
+      for (int n = 0; n < 2000; ++n) (graph.*command)();
+      EXPECT_EQ(graph.Reset(), L"");
+      EXPECT_EQ(graph.Ranges(), kHome);
+      EXPECT_EQ(graph.Samples().axisRow, 175);
+    }
+  }
+}
+
+TEST(GraphModel, AMoveLeavesTheOtherRangeAloneHoweverWide) {
+  GraphData data = Graph({L"x"});
+  data.options.coordinates = false;
+  GraphModel graph = Opened(data);
+  for (int n = 0; n < 3000; ++n) graph.ZoomOut();
+  const PlotRanges wide = graph.Ranges();
+  graph.MoveLeft();
+  EXPECT_EQ(graph.Ranges().yMin, wide.yMin);
+  EXPECT_EQ(graph.Ranges().yMax, wide.yMax);
+}
+
+TEST(GraphModel, ATapWithTraceEvaluatesTheFunctions) {
+  GraphModel graph = Opened(Graph({L"2*x", L"sqrt(x)"}));
+  EXPECT_EQ(graph.PenDown({61, 100}), L"");
+  EXPECT_EQ(graph.xBox, L"-5.04347826087");
+  EXPECT_EQ(graph.ReadOutLine(0), L"R:F1(X) = -10.08695652174");
+  EXPECT_EQ(graph.ReadOutLine(1), L"G:F2(X) = Out of range");
+}
+
+TEST(GraphModel, ATapWithoutTraceReadsThePoint) {
+  GraphModel graph = Opened(Graph({L"2*x", L"x"}));
+  graph.SelectFunction(1);
+  graph.ToggleTrace();
+  EXPECT_EQ(graph.PenDown({119, 175}), L"");
+  EXPECT_EQ(graph.xBox, L"0");
+  ASSERT_EQ(graph.ReadOuts().size(), 1u);
+  EXPECT_EQ(graph.ReadOutLine(0), L"y = 0.058479532164");
+  EXPECT_EQ(graph.SelectedReadOut(), 0);
+  EXPECT_EQ(graph.SelectedFunction(), 1);
+}
+
+TEST(GraphModel, ATapOutsideReadsNothing) {
+  GraphModel graph = Opened(Graph({L"2*x"}));
+  for (const PixelPoint outside : {PixelPoint{3, 100}, {235, 100}, {100, 88}, {100, 262}}) {
+    EXPECT_EQ(graph.PenDown(outside), L"");
+    EXPECT_EQ(graph.PenUp(outside), L"");
+  }
+  EXPECT_EQ(graph.xBox, L"0");
+  EXPECT_EQ(graph.Ranges(), kHome);
+}
+
+TEST(GraphModel, ATapOnInfiniteRangesSaysThatThereIsNoNumber) {
+  GraphData data = Graph({L"x"});
+  data.options.coordinates = false;
+  GraphModel graph = Opened(data);
+  for (int n = 0; n < 3000; ++n) graph.ZoomOut();
+  EXPECT_EQ(graph.PenDown({61, 100}), L"Please enter a number.");
+  EXPECT_EQ(graph.xBox, L"Out of range(overflow or underflow)");
+}
+
+TEST(GraphModel, ADragShowsItsBox) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  graph.PenDown({50, 100});
+  EXPECT_FALSE(graph.Drag().IsShown());
+  graph.PenMove({80, 140});
+  EXPECT_TRUE(graph.Drag().IsShown());
+  EXPECT_EQ(graph.PenUp({165, 200}), L"");
+  EXPECT_FALSE(graph.Drag().IsShown());
+  EXPECT_EQ(graph.Ranges().xMin, 20.0 / 230 * 46 - 10);
+  EXPECT_EQ(graph.Ranges().xMax, 20.0 / 230 * 161 - 10);
+  EXPECT_EQ(graph.Ranges().yMin, 20.0 / 171 * 61 - 10);
+  EXPECT_EQ(graph.Ranges().yMax, 20.0 / 171 * 161 - 10);
+  EXPECT_FALSE(graph.IsAtHome());
+  EXPECT_EQ(graph.Labels()[0], L"x min=-6");
+  graph.Undo();
+  EXPECT_EQ(graph.Ranges(), kHome);
+}
+
+TEST(GraphModel, ADragBackwardsShowsTheSameBox) {
+  GraphModel forwards = Opened(Graph({L"x"}));
+  forwards.PenDown({50, 100});
+  forwards.PenUp({165, 200});
+  GraphModel backwards = Opened(Graph({L"x"}));
+  backwards.PenDown({165, 200});
+  backwards.PenUp({50, 100});
+  EXPECT_EQ(backwards.Ranges(), forwards.Ranges());
+}
+
+TEST(GraphModel, SmallDragsAndDragsThatEndOutsideAreNoZoom) {
+  const std::pair<PixelPoint, PixelPoint> drags[] = {
+      {{50, 100}, {50, 100}},          {{50, 100}, {59, 200}},  {{50, 100}, {150, 109}},
+      {{50, 100}, {235, 200}},         {{50, 100}, {150, 262}}, {{50, 100}, {3, 200}},
+      {{50, 100}, {1000000, -1000000}}};
+  for (const auto& [from, to] : drags) {
+    GraphModel graph = Opened(Graph({L"x"}));
+    graph.PenDown(from);
+    graph.PenMove(to);
+    EXPECT_EQ(graph.PenUp(to), L"");
+    EXPECT_EQ(graph.Ranges(), kHome);
+    EXPECT_TRUE(graph.IsAtHome());
+  }
+}
+
+TEST(GraphModel, ADragMayStartOutside) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  graph.PenDown({2, 88});
+  graph.PenUp({119, 200});
+  EXPECT_EQ(graph.Ranges().xMin, 20.0 / 230 * -2 - 10);
+  EXPECT_EQ(graph.Ranges().xMax, 0);
+}
+
+TEST(GraphModel, ABoxOfEqualBoundsIsRefused) {
+  const double next = std::nextafter(1.0, 2.0);
+  GraphModel x = Opened(Graph({L"x"}, {1, next, -1, 1}));
+  x.PenDown({20, 100});
+  EXPECT_EQ(x.PenUp({30, 200}), L"Can not draw graph(X min = X max)");
+  EXPECT_EQ(x.Ranges().xMax, next);
+  GraphModel y = Opened(Graph({L"x"}, {-1, 1, 1, next}));
+  y.PenDown({20, 100});
+  EXPECT_EQ(y.PenUp({130, 110}), L"Can not draw graph(Y min = Y max)");
+}
+
+TEST(GraphModel, EveryCommandRemovesTheRubberBand) {
+  for (const GraphCommand& command : kGraphCommands) {
+    GraphModel graph = Opened(Graph({L"x"}));
+    graph.PenDown({50, 100});
+    graph.PenMove({80, 140});
+    (graph.*command.run)();
+    EXPECT_FALSE(graph.Drag().IsShown());
+  }
+}
+
+TEST(GraphModel, TheMenusCommandsHaveTheirCaptions) {
+  const wchar_t* const captions[] = {L"Zoom In",    L"Zoom Out", L"Reset",     L"Move Left",
+                                     L"Move Right", L"Move Up",  L"Move Down", L"Undo"};
+  ASSERT_EQ(std::size(kGraphCommands), std::size(captions));
+  for (std::size_t i = 0; i < std::size(captions); ++i) {
+    EXPECT_EQ(kGraphCommands[i].caption, captions[i]);
+  }
+}
+
+TEST(GraphModel, CalReadsTheBox) {
+  GraphModel graph = Opened(Graph({L"x^2", L"1/x"}));
+  graph.xBox = L"-2";
+  EXPECT_EQ(graph.Cal(), L"");
+  EXPECT_EQ(graph.ReadOutLine(0), L"R:F1(X) = 4");
+  EXPECT_EQ(graph.ReadOutLine(1), L"G:F2(X) = -0.5");
+  graph.xBox = L"1,234";
+  graph.Cal();
+  EXPECT_EQ(graph.ReadOutLine(0), L"R:F1(X) = 1,522,756");
+}
+
+TEST(GraphModel, CalMakesMinusZeroZero) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  graph.xBox = L"-0";
+  graph.Cal();
+  EXPECT_EQ(graph.xBox, L"0");
+  graph.xBox = L"-0.0";
+  graph.Cal();
+  EXPECT_EQ(graph.xBox, L"-0.0");
+}
+
+TEST(GraphModel, CalStopsWithoutANumber) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  for (const wchar_t* text : {L"", L"abc", L"1,5", L"inf", L"1e999"}) {
+    graph.xBox = text;
+    EXPECT_EQ(graph.Cal(), L"Please enter a number.");
+    EXPECT_EQ(graph.xBox, text);
+    EXPECT_EQ(graph.ReadOutLine(0), L"R:F1(X) = 0");
+  }
+}
+
+TEST(GraphModel, CalUsesTheViewsAngleTypeAndFormat) {
+  GraphData data = Graph({L"sin(x)"});
+  data.angleType = AngleType::Degrees;
+  GraphModel graph(data, DisplayType::FixedPoint, 3);
+  graph.xBox = L"30";
+  graph.Cal();
+  EXPECT_EQ(graph.ReadOutLine(0), L"R:F1(X) = 0.500");
+  graph.SetDisplay(DisplayType::Scientific, 1);
+  EXPECT_EQ(graph.ReadOutLine(0), L"R:F1(X) = 5.0e-001");
+  EXPECT_EQ(graph.Labels()[1], L"x max=1.0e+001");
+}
+
+TEST(GraphModel, CalSelectsTheReadOutOfTheSelectedFunction) {
+  GraphModel graph = Opened(Graph({L"x", L"x+1", L"x+2"}));
+  graph.ToggleTrace();
+  graph.SelectFunction(2);
+  EXPECT_EQ(graph.SelectedReadOut(), 0);
+  graph.Cal();
+  EXPECT_EQ(graph.SelectedReadOut(), 2);
+}
+
+TEST(GraphModel, TheListsAreLinkedWhileTraceIsOn) {
+  GraphModel graph = Opened(Graph({L"x", L"x+1", L"x+2"}));
+  graph.SelectFunction(1);
+  EXPECT_EQ(graph.SelectedReadOut(), 1);
+  graph.SelectReadOut(2);
+  EXPECT_EQ(graph.SelectedFunction(), 2);
+  graph.ToggleTrace();
+  graph.SelectFunction(0);
+  EXPECT_EQ(graph.SelectedReadOut(), 2);
+  graph.SelectReadOut(1);
+  EXPECT_EQ(graph.SelectedFunction(), 0);
+}
+
+TEST(GraphModel, ASelectionWithoutAPartnerLeavesTheOtherList) {
+  GraphModel graph = Opened(Graph({L"x", L"x+1"}));
+  graph.ToggleTrace();
+  graph.PenDown({100, 100});
+  graph.ToggleTrace();
+  graph.SelectFunction(1);
+  EXPECT_EQ(graph.SelectedFunction(), 1);
+  EXPECT_EQ(graph.SelectedReadOut(), 0);
+}
+
+TEST(GraphModel, OptionsTakeRangesAndFlags) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  graph.ApplyOptions({1, 2, 3, 4}, {.grid = false, .line = false, .coordinates = false});
+  EXPECT_EQ(graph.Ranges(), (PlotRanges{1, 2, 3, 4}));
+  EXPECT_EQ(graph.Options(), (PlotOptions{false, false, false}));
+  EXPECT_TRUE(graph.Labels().empty());
+  EXPECT_FALSE(graph.IsAtHome());
+  graph.Undo();
+  EXPECT_EQ(graph.Ranges(), kHome);
+  graph.ApplyOptions({1, 2, 3, 4}, {});
+  EXPECT_EQ(graph.Labels()[2], L"y min=3");
+  graph.Reset();
+  EXPECT_EQ(graph.Ranges(), kHome);
+  EXPECT_EQ(graph.Options(), PlotOptions());
+}
+
+}  // namespace
+}  // namespace vexa

@@ -1,0 +1,529 @@
+// The graph view through pen, wheel, keys, menus and buttons.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <QWheelEvent>
+
+#include "display/DisplayFormattingDialog.h"
+#include "display/MemorySettingsStore.h"
+#include "display/SettingsLayout.h"
+#include "display/WideText.h"
+#include "plotter/GraphBitmap.h"
+#include "plotter/GraphImage.h"
+#include "plotter/GraphViewDialog.h"
+#include "plotter/Graphs.h"
+#include "plotter/PlotView.h"
+#include "plotter/PlotterOptionsDialog.h"
+#include "plotter/ScreenSteps.h"
+
+namespace vexa {
+
+using namespace test;
+
+class GraphViewTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+  void init();
+  void cleanup() { delete view; }
+  void OpensAtHome();
+  void EveryControlHasAName();
+  void MenuCommandsChangeTheRanges();
+  void MenusShowTheirKeys();
+  void KeysChangeTheRanges_data();
+  void KeysChangeTheRanges();
+  void ListsAndBoxesKeepTheirKeys();
+  void TheWheelZooms();
+  void ATapTraces();
+  void ATapWithoutTraceReadsThePoint();
+  void ADragShowsABoxAndZooms();
+  void ASmallDragDoesNotZoom();
+  void TheBoxLeavesThePictureAsItWas();
+  void CalEvaluates();
+  void EnterRunsCal();
+  void TheListsAreLinkedWhileTraceIsOn();
+  void OpeningAListRemovesTheBox();
+  void RefusalsAreShown();
+  void OptionsChangeTheGraph();
+  void OptionsRefuseEqualBounds();
+  void OptionsRefuseWhatIsNoNumber();
+  void CancelledOptionsChangeNothing();
+  void ConfigFormatsAnew();
+  void ShowsDataPoints();
+  void SaveWritesTheChosenFormat();
+  void SaveSaysThatTheFileCannotBeWritten();
+  void CancelledSaveWritesNothing();
+  void CloseCloses();
+  void TargetsAreLargeEnough();
+  void FitsASmallDisplay();
+  void DarkColoursLeaveTheGraphWhite();
+
+ private:
+  void Open(const GraphData& data);
+  PlotView* Plot() const { return view->findChild<PlotView*>(); }
+  const GraphModel& Graph() const { return view->Graph(); }
+  QComboBox* Functions() const { return view->findChild<QComboBox*>(QStringLiteral("Functions")); }
+  QComboBox* Values() const { return view->findChild<QComboBox*>(QStringLiteral("Values")); }
+  QLineEdit* XBox() const { return view->findChild<QLineEdit*>(QStringLiteral("X =")); }
+  QCheckBox* Trace() const { return view->findChild<QCheckBox*>(QStringLiteral("Trace")); }
+  /// The middle of a pixel of the view, on the widget.
+  QPoint At(int x, int y) const;
+  void Drag(QPoint from, QPoint to, bool release = true);
+  void Wheel(int angle);
+  void Command(const char* caption) {
+    Choose(view, QStringLiteral("Graph"), QString::fromLatin1(caption));
+  }
+  QFileDialog* OpenSave();
+
+  MemorySettingsStore store;
+  QWidget parent;
+  QPointer<GraphViewDialog> view;
+};
+
+void GraphViewTest::init() {
+  store = {};
+  parent.show();
+  Open(test::Graph({L"2*x", L"sqrt(x)", L"x+1"}));
+}
+
+void GraphViewTest::Open(const GraphData& data) {
+  delete view;
+  view = new GraphViewDialog(store, data, &parent);
+  view->open();
+  QVERIFY(QTest::qWaitForWindowActive(view));
+}
+
+QPoint GraphViewTest::At(int x, int y) const {
+  const qreal scale = std::min(Plot()->width() / 234.0, Plot()->height() / 176.0);
+  const QPointF origin((Plot()->width() - 234 * scale) / 2, (Plot()->height() - 176 * scale) / 2);
+  return (origin + QPointF(x - 2 + 0.5, y - 87 + 0.5) * scale).toPoint();
+}
+
+void GraphViewTest::Drag(QPoint from, QPoint to, bool release) {
+  QTest::mousePress(Plot(), Qt::LeftButton, {}, from);
+  QMouseEvent move(QEvent::MouseMove, to, Plot()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(Plot(), &move);
+  if (release) QTest::mouseRelease(Plot(), Qt::LeftButton, {}, to);
+}
+
+void GraphViewTest::Wheel(int angle) {
+  const QPointF place = Plot()->rect().center();
+  QWheelEvent wheel(place, Plot()->mapToGlobal(place), {}, QPoint(0, angle), Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(Plot(), &wheel);
+}
+
+void GraphViewTest::OpensAtHome() {
+  QVERIFY(view->isModal());
+  QCOMPARE(view->findChild<QLabel*>(QStringLiteral("Angle"))->text(), QStringLiteral("RAD"));
+  QCOMPARE(Functions()->count(), 3);
+  QCOMPARE(Functions()->currentText(), QStringLiteral("R:F1(X)=2*x"));
+  QCOMPARE(Functions()->itemText(1), QStringLiteral("G:F2(x)=sqrt(x)"));
+  QCOMPARE(Functions()->itemText(2), QStringLiteral("B:F3(X)=x+1"));
+  QCOMPARE(XBox()->text(), QStringLiteral("0"));
+  QVERIFY(Trace()->isChecked());
+  QCOMPARE(Values()->count(), 3);
+  QCOMPARE(Values()->currentText(), QStringLiteral("R:F1(X) = 0"));
+  QVERIFY(Plot()->hasFocus());
+  GraphData degrees = test::Graph({L"x"});
+  degrees.angleType = AngleType::Degrees;
+  Open(degrees);
+  QCOMPARE(view->findChild<QLabel*>(QStringLiteral("Angle"))->text(), QStringLiteral("DEG"));
+}
+
+void GraphViewTest::EveryControlHasAName() {
+  for (const char* name :
+       {"Graph", "Functions", "Values", "X =", "Cal", "Trace", "Save Graph", "Close"}) {
+    const auto* const control = view->findChild<QWidget*>(QString::fromLatin1(name));
+    QVERIFY2(control && !control->accessibleName().isEmpty(), name);
+  }
+}
+
+void GraphViewTest::MenuCommandsChangeTheRanges() {
+  Command("Zoom In");
+  QCOMPARE(Graph().Ranges(), (PlotRanges{-6, 6, -6, 6}));
+  Command("Move Right");
+  Command("Move Up");
+  const double moved = 12 * 0.2;
+  QCOMPARE(Graph().Ranges(), (PlotRanges{-6 + moved, 6 + moved, -6 + moved, 6 + moved}));
+  Command("Undo");
+  QCOMPARE(Graph().Ranges(), (PlotRanges{-6 + moved, 6 + moved, -6, 6}));
+  Command("Reset");
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+  Command("Zoom Out");
+  Command("Move Left");
+  Command("Move Down");
+  QCOMPARE(Graph().Ranges().xMin, -14 - 28 * 0.2);
+}
+
+void GraphViewTest::MenusShowTheirKeys() {
+  const std::pair<const char*, const char*> keys[] = {
+      {"Zoom In", "+"},        {"Zoom Out", "-"}, {"Reset", "Ctrl+0"},   {"Move Left", "Left"},
+      {"Move Right", "Right"}, {"Move Up", "Up"}, {"Move Down", "Down"}, {"Undo", "Ctrl+Z"}};
+  for (const auto& [caption, key] : keys) {
+    const QAction* const action =
+        MenuAction(view, QStringLiteral("Graph"), QString::fromLatin1(caption));
+    QVERIFY(action);
+    QCOMPARE(action->shortcut(), QKeySequence(QString::fromLatin1(key)));
+  }
+  QVERIFY(MenuAction(view, QStringLiteral("Graph"), QStringLiteral("Graph Options")));
+}
+
+void GraphViewTest::KeysChangeTheRanges_data() {
+  QTest::addColumn<int>("key");
+  QTest::addColumn<double>("xMin");
+  QTest::addColumn<double>("yMin");
+  QTest::newRow("Left") << int{Qt::Key_Left} << -14.0 << -10.0;
+  QTest::newRow("Right") << int{Qt::Key_Right} << -6.0 << -10.0;
+  QTest::newRow("Up") << int{Qt::Key_Up} << -10.0 << -6.0;
+  QTest::newRow("Down") << int{Qt::Key_Down} << -10.0 << -14.0;
+  QTest::newRow("+") << int{Qt::Key_Plus} << -6.0 << -6.0;
+  QTest::newRow("-") << int{Qt::Key_Minus} << -14.0 << -14.0;
+}
+
+void GraphViewTest::KeysChangeTheRanges() {
+  QFETCH(int, key);
+  QFETCH(double, xMin);
+  QFETCH(double, yMin);
+  QTest::keyClick(Plot(), static_cast<Qt::Key>(key));
+  QCOMPARE(Graph().Ranges().xMin, xMin);
+  QCOMPARE(Graph().Ranges().yMin, yMin);
+  QTest::keyClick(Plot(), Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+}
+
+void GraphViewTest::ListsAndBoxesKeepTheirKeys() {
+  XBox()->setFocus();
+  XBox()->selectAll();
+  QTest::keyClicks(XBox(), QStringLiteral("-1e+2"));
+  QTest::keyClick(XBox(), Qt::Key_Left);
+  QCOMPARE(XBox()->text(), QStringLiteral("-1e+2"));
+  QCOMPARE(XBox()->cursorPosition(), 4);
+  Functions()->setFocus();
+  QTest::keyClick(Functions(), Qt::Key_Down);
+  QCOMPARE(Functions()->currentIndex(), 1);
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+}
+
+void GraphViewTest::TheWheelZooms() {
+  Wheel(120);
+  QCOMPARE(Graph().Ranges(), (PlotRanges{-6, 6, -6, 6}));
+  Wheel(-120);
+  QCOMPARE(Graph().Ranges().xMax, 8.4);
+  // A finely turned wheel adds up.
+  Command("Reset");
+  Wheel(60);
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+  Wheel(60);
+  QCOMPARE(Graph().Ranges().xMax, 6.0);
+  Wheel(240);
+  QCOMPARE(Graph().Ranges().xMax, 6.0 * 0.6 * 0.6);
+}
+
+void GraphViewTest::ATapTraces() {
+  QTest::mouseClick(Plot(), Qt::LeftButton, {}, At(165, 120));
+  QCOMPARE(XBox()->text(), QStringLiteral("4"));
+  QCOMPARE(Values()->itemText(0), QStringLiteral("R:F1(X) = 8"));
+  QCOMPARE(Values()->itemText(1), QStringLiteral("G:F2(X) = 2"));
+  QCOMPARE(Values()->itemText(2), QStringLiteral("B:F3(X) = 5"));
+  QTest::mouseClick(Plot(), Qt::LeftButton, {}, At(73, 120));
+  QCOMPARE(Values()->itemText(1), QStringLiteral("G:F2(X) = Out of range"));
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+  // The other buttons do nothing.
+  QTest::mouseClick(Plot(), Qt::RightButton, {}, At(165, 120));
+  QCOMPARE(XBox()->text(), QStringLiteral("-4"));
+}
+
+void GraphViewTest::ATapWithoutTraceReadsThePoint() {
+  Press(view, QStringLiteral("Trace"));
+  QVERIFY(!Trace()->isChecked());
+  QTest::mouseClick(Plot(), Qt::LeftButton, {}, At(119, 175));
+  QCOMPARE(XBox()->text(), QStringLiteral("0"));
+  QCOMPARE(Values()->count(), 1);
+  QCOMPARE(Values()->currentText(), QStringLiteral("y = 0.058479532164"));
+}
+
+void GraphViewTest::ADragShowsABoxAndZooms() {
+  Drag(At(50, 100), At(165, 200), false);
+  QVERIFY(Graph().Drag().IsShown());
+  QCOMPARE(Graph().Drag().Start(), (PixelPoint{50, 100}));
+  QCOMPARE(Graph().Drag().End(), (PixelPoint{165, 200}));
+  QTest::mouseRelease(Plot(), Qt::LeftButton, {}, At(165, 200));
+  QVERIFY(!Graph().Drag().IsShown());
+  QCOMPARE(Graph().Ranges().xMin, 20.0 / 230 * 46 - 10);
+  QCOMPARE(Graph().Ranges().yMax, 20.0 / 171 * 161 - 10);
+  QTest::keyClick(Plot(), Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+}
+
+void GraphViewTest::ASmallDragDoesNotZoom() {
+  Drag(At(50, 100), At(59, 200));
+  Drag(At(50, 100), At(150, 109));
+  // One that ends outside, far away.
+  Drag(At(50, 100), QPoint(5000, -5000));
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+  Drag(At(50, 100), At(60, 110));
+  QVERIFY(Graph().Ranges() != PlotRanges());
+}
+
+void GraphViewTest::TheBoxLeavesThePictureAsItWas() {
+  // The tap that begins a drag writes nothing into the picture.
+  const QImage before = Plot()->grab().toImage();
+  Drag(At(50, 100), At(150, 105), false);
+  const QImage during = Plot()->grab().toImage();
+  QVERIFY(during != before);
+  // White is black under the box, and back.
+  const QPoint onBox = (At(100, 105) * Plot()->devicePixelRatioF());
+  QCOMPARE(before.pixelColor(onBox), QColor(Qt::white));
+  QVERIFY(during.pixelColor(onBox).lightness() < 128);
+  QTest::mouseRelease(Plot(), Qt::LeftButton, {}, At(150, 105));
+  QCOMPARE(Plot()->grab().toImage(), before);
+}
+
+void GraphViewTest::CalEvaluates() {
+  Type(XBox(), QStringLiteral("-2"));
+  Press(view, QStringLiteral("Cal"));
+  QCOMPARE(Values()->itemText(0), QStringLiteral("R:F1(X) = -4"));
+  Type(XBox(), QStringLiteral("-0"));
+  Press(view, QStringLiteral("Cal"));
+  QCOMPARE(XBox()->text(), QStringLiteral("0"));
+  Type(XBox(), QStringLiteral("two"));
+  Press(view, QStringLiteral("Cal"));
+  QCOMPARE(Answer(view), QStringLiteral("Please enter a number."));
+  QCOMPARE(XBox()->text(), QStringLiteral("two"));
+  QTRY_VERIFY(XBox()->hasFocus());
+}
+
+void GraphViewTest::EnterRunsCal() {
+  Type(XBox(), QStringLiteral("3"));
+  QTest::keyClick(XBox(), Qt::Key_Return);
+  QCOMPARE(Values()->itemText(0), QStringLiteral("R:F1(X) = 6"));
+}
+
+void GraphViewTest::TheListsAreLinkedWhileTraceIsOn() {
+  Functions()->setFocus();
+  QTest::keyClick(Functions(), Qt::Key_Down);
+  QCOMPARE(Values()->currentIndex(), 1);
+  Values()->setFocus();
+  QTest::keyClick(Values(), Qt::Key_Down);
+  QCOMPARE(Functions()->currentIndex(), 2);
+  Press(view, QStringLiteral("Trace"));
+  QTest::keyClick(Values(), Qt::Key_Up);
+  QCOMPARE(Values()->currentIndex(), 1);
+  QCOMPARE(Functions()->currentIndex(), 2);
+  Functions()->setFocus();
+  QTest::keyClick(Functions(), Qt::Key_Up);
+  QTest::keyClick(Functions(), Qt::Key_Up);
+  QCOMPARE(Functions()->currentIndex(), 0);
+  QCOMPARE(Values()->currentIndex(), 1);
+}
+
+void GraphViewTest::OpeningAListRemovesTheBox() {
+  for (QComboBox* const list : {Functions(), Values()}) {
+    Drag(At(50, 100), At(150, 200), false);
+    QVERIFY(Graph().Drag().IsShown());
+    list->showPopup();
+    QVERIFY(!Graph().Drag().IsShown());
+    list->hidePopup();
+    QTest::mouseRelease(Plot(), Qt::LeftButton, {}, At(50, 100));
+  }
+}
+
+void GraphViewTest::RefusalsAreShown() {
+  Open(test::Graph({L"x"}, {-1, 1, -1.7e308, 1.7e308}));
+  Command("Zoom Out");
+  QCOMPARE(ShownIcon(view), QMessageBox::Critical);
+  QCOMPARE(Answer(view), QStringLiteral("Out of range(overflow or underflow)"));
+  QCOMPARE(Graph().Ranges().yMax, 1.7e308);
+  QTRY_VERIFY(Plot()->hasFocus());
+}
+
+void GraphViewTest::OptionsChangeTheGraph() {
+  Command("Zoom In");
+  Command("Graph Options");
+  auto* const options = OpenWindow<PlotterOptionsDialog>(view);
+  QVERIFY(options);
+  const auto box = [&](const char* name) {
+    return options->findChild<QLineEdit*>(QString::fromLatin1(name));
+  };
+  QCOMPARE(box("X min")->text(), QStringLiteral("-6"));
+  QCOMPARE(box("Y max")->text(), QStringLiteral("6"));
+  Type(box("X min"), QStringLiteral("0"));
+  Type(box("Y max"), QStringLiteral("12.5"));
+  Press(options, QStringLiteral("Line"));
+  Press(options, QStringLiteral("Coordinates"));
+  Press(options, QStringLiteral("OK"));
+  QCOMPARE(Graph().Ranges(), (PlotRanges{0, 6, -6, 12.5}));
+  QCOMPARE(Graph().Options(), (PlotOptions{true, false, false}));
+  QVERIFY(Graph().Labels().empty());
+  Command("Undo");
+  QCOMPARE(Graph().Ranges(), (PlotRanges{-6, 6, -6, 6}));
+  Command("Reset");
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+}
+
+void GraphViewTest::OptionsRefuseEqualBounds() {
+  Command("Graph Options");
+  auto* const options = OpenWindow<PlotterOptionsDialog>(view);
+  auto* const xMin = options->findChild<QLineEdit*>(QStringLiteral("X min"));
+  auto* const yMin = options->findChild<QLineEdit*>(QStringLiteral("Y min"));
+  Type(xMin, QStringLiteral("10"));
+  Type(yMin, QStringLiteral("10"));
+  Press(options, QStringLiteral("OK"));
+  QCOMPARE(ShownIcon(options), QMessageBox::Critical);
+  QCOMPARE(Answer(options),
+           QStringLiteral("The maximum value of X should be bigger than the minimum value of X."));
+  QTRY_VERIFY(!OpenWindow<QMessageBox>(options));
+  QCOMPARE(options->focusWidget(), xMin);
+  QCOMPARE(xMin->text(), QStringLiteral("10"));
+  Type(xMin, QStringLiteral("9"));
+  Press(options, QStringLiteral("OK"));
+  QCOMPARE(Answer(options),
+           QStringLiteral("The maximum value of Y should be bigger than the minimum value of Y."));
+  QVERIFY(options->isVisible());
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+}
+
+void GraphViewTest::OptionsRefuseWhatIsNoNumber() {
+  Command("Graph Options");
+  auto* const options = OpenWindow<PlotterOptionsDialog>(view);
+  Type(options->findChild<QLineEdit*>(QStringLiteral("X max")), QStringLiteral("ten"));
+  QTest::keyClick(options, Qt::Key_Return);
+  QCOMPARE(Answer(options), QStringLiteral("Please enter a number."));
+  QVERIFY(options->isVisible());
+}
+
+void GraphViewTest::CancelledOptionsChangeNothing() {
+  Command("Graph Options");
+  auto* const options = OpenWindow<PlotterOptionsDialog>(view);
+  Type(options->findChild<QLineEdit*>(QStringLiteral("X max")), QStringLiteral("99"));
+  Press(options, QStringLiteral("Grid"));
+  Press(options, QStringLiteral("Cancel"));
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+  QCOMPARE(Graph().Options(), PlotOptions());
+  QVERIFY(Graph().IsAtHome());
+}
+
+void GraphViewTest::ConfigFormatsAnew() {
+  Write(store, settings::kDisplayType, 1);
+  Write(store, settings::kPrecision, 2);
+  Open(test::Graph({L"x+0.5"}));
+  QCOMPARE(Values()->currentText(), QStringLiteral("R:F1(X) = 0.50"));
+  QCOMPARE(FromWide(Graph().Labels()[1]), QStringLiteral("x max=10.00"));
+  Choose(view, QStringLiteral("File"), QStringLiteral("Config..."));
+  auto* const dialog = OpenWindow<DisplayFormattingDialog>(view);
+  QVERIFY(dialog);
+  Press(dialog, QStringLiteral("Scientific Notation"));
+  Press(dialog, QStringLiteral("OK"));
+  QCOMPARE(Values()->currentText(), QStringLiteral("R:F1(X) = 5.00e-001"));
+  QCOMPARE(FromWide(Graph().Labels()[1]), QStringLiteral("x max=1.00e+001"));
+  QCOMPARE(Read(store, settings::kDisplayType), 2);
+  QCOMPARE(Read(store, settings::kPrecision), 2);
+}
+
+void GraphViewTest::ShowsDataPoints() {
+  GraphData data = test::Graph({L"2*X+0"}, {0.4, 3.6, 0.8, 7.2});
+  data.options = {false, true, false};
+  data.dataPoints = {{1, 5}, {3, 2}};
+  Open(data);
+  QCOMPARE(Graph().Samples().dataPixels.size(), std::size_t{2});
+  const QImage shown = Plot()->grab().toImage();
+  const PixelPoint pixel = Graph().Samples().dataPixels[0];
+  QCOMPARE(shown.pixelColor(At(pixel.x - 1, pixel.y) * Plot()->devicePixelRatioF()),
+           QColor(0, 0, 255));
+}
+
+QFileDialog* GraphViewTest::OpenSave() {
+  Press(view, QStringLiteral("Save Graph"));
+  return OpenWindow<QFileDialog>(view);
+}
+
+void GraphViewTest::SaveWritesTheChosenFormat() {
+  QTemporaryDir folder;
+  const QString name = folder.filePath(QStringLiteral("graph"));
+  const std::tuple<const char*, const char*, const char*> formats[] = {
+      {"BMP(*.bmp)", "bmp", "BM"}, {"PNG(*.png)", "png", "\x89PNG"}, {"SVG(*.svg)", "svg", "<svg"}};
+  for (const auto& [filter, suffix, magic] : formats) {
+    QFileDialog* const dialog = OpenSave();
+    QVERIFY(dialog);
+    QCOMPARE(dialog->nameFilters().first(), QStringLiteral("BMP(*.bmp)"));
+    QVERIFY(!dialog->testOption(QFileDialog::DontConfirmOverwrite));
+    dialog->selectNameFilter(QString::fromLatin1(filter));
+    emit dialog->filterSelected(QString::fromLatin1(filter));
+    auto* const nameBox = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    QVERIFY(nameBox);
+    nameBox->setText(name);
+    QMetaObject::invokeMethod(dialog, "accept");
+    QFile file(name + u'.' + QString::fromLatin1(suffix));
+    QVERIFY2(file.open(QIODevice::ReadOnly), suffix);
+    QVERIFY(file.readAll().startsWith(magic));
+    QTRY_VERIFY(!OpenWindow<QFileDialog>(view));
+  }
+  QFile bitmap(name + QStringLiteral(".bmp"));
+  QVERIFY(bitmap.open(QIODevice::ReadOnly));
+  const std::vector<std::uint8_t> expected = BitmapFile(DrawPicture(Graph()));
+  QCOMPARE(bitmap.readAll(), QByteArray(reinterpret_cast<const char*>(expected.data()),
+                                        static_cast<qsizetype>(expected.size())));
+}
+
+void GraphViewTest::SaveSaysThatTheFileCannotBeWritten() {
+  QFileDialog* const dialog = OpenSave();
+  emit dialog->fileSelected(QStringLiteral("/nowhere/at/all/graph.bmp"));
+  QCOMPARE(Answer(view), QStringLiteral("File Error"));
+}
+
+void GraphViewTest::CancelledSaveWritesNothing() {
+  QTemporaryDir folder;
+  QFileDialog* const dialog = OpenSave();
+  dialog->setDirectory(folder.path());
+  dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QStringLiteral("a.bmp"));
+  dialog->reject();
+  QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+void GraphViewTest::CloseCloses() {
+  Press(view, QStringLiteral("Close"));
+  QTRY_VERIFY(!view);
+  init();
+  QTest::keyClick(view, Qt::Key_Escape);
+  QTRY_VERIFY(!view);
+}
+
+void GraphViewTest::TargetsAreLargeEnough() {
+  for (const char* name : {"Functions", "Values", "X =", "Cal", "Trace", "Save Graph", "Close"}) {
+    QVERIFY2(view->findChild<QWidget*>(QString::fromLatin1(name))->height() >= 30, name);
+  }
+}
+
+void GraphViewTest::FitsASmallDisplay() {
+  view->resize(240, 320);
+  QTest::qWait(1);
+  QVERIFY2(view->width() <= 240 && view->height() <= 320,
+           qPrintable(QStringLiteral("%1 x %2").arg(view->width()).arg(view->height())));
+  QTest::mouseClick(Plot(), Qt::LeftButton, {}, At(119, 120));
+  QVERIFY(std::abs(XBox()->text().toDouble()) < 0.2);
+}
+
+void GraphViewTest::DarkColoursLeaveTheGraphWhite() {
+  const auto background = [this] {
+    return Plot()->grab().toImage().pixelColor(At(225, 97) * Plot()->devicePixelRatioF());
+  };
+  QCOMPARE(background(), QColor(Qt::white));
+  QPalette dark;
+  dark.setColor(QPalette::Window, Qt::black);
+  view->setPalette(dark);
+  QCOMPARE(background(), QColor(Qt::white));
+  QCOMPARE(Plot()->grab().toImage().pixelColor(2, Plot()->height() - 3), QColor(Qt::black));
+}
+
+}  // namespace vexa
+
+QTEST_MAIN(vexa::GraphViewTest)
+#include "GraphViewTest.moc"

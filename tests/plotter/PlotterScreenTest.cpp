@@ -1,0 +1,509 @@
+// The plotter's screen through its controls, and what it leaves in the store.
+
+#include "plotter/PlotterScreen.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+
+#include "display/DisplayFormattingDialog.h"
+#include "display/MemorySettingsStore.h"
+#include "display/SettingsLayout.h"
+#include "display/WideText.h"
+#include "macros/MacroEditorDialog.h"
+#include "macros/MacroListDialog.h"
+#include "macros/MemoryVariableDialog.h"
+#include "plotter/GraphViewDialog.h"
+#include "plotter/PlotterKeypad.h"
+#include "plotter/ScreenSteps.h"
+#include "toolkit/EditLine.h"
+#include "toolkit/TouchList.h"
+
+namespace vexa {
+
+using namespace test;
+
+class PlotterScreenTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void cleanup() { screen.reset(); }
+  void StartsAsAFreshStoreSays();
+  void StartsWithWhatIsStored();
+  void EveryControlHasAName();
+  void KeysTypeAFunction();
+  void OperatorKeysWrapASelection();
+  void EditingKeysWork();
+  void ShiftAndAngleSwapTheirKeys();
+  void AddListsTheFunction();
+  void RefusalsAreShownAndTheFieldGetsTheFocus();
+  void ThreeFunctionsDisableAdd();
+  void DeleteAsksFirst();
+  void ChoosingAFunctionPutsItIntoTheField();
+  void PbListsTheNewestFirst();
+  void PlotOpensTheGraph();
+  void EnterPlots();
+  void PlotSaysWhichBoxIsNoNumber();
+  void PlotShowsTheFunctionThatFails();
+  void MemoryGoesToTheBoxThatHadTheFocus();
+  void MacroWithoutMacrosOpensTheEditor();
+  void MacroInsertsItsCall();
+  void ConfigIsStoredAtOnce();
+  void CutCopyPaste();
+  void EverythingIsSavedAtTheEnd();
+  void NothingIsSavedWhenABoxIsNoNumber();
+  void AHostileStoreIsHarmless();
+  void TargetsAreLargeEnough();
+  void EverythingFitsAtTheSmallestSize();
+  void TabReachesEverythingAsRead();
+
+ private:
+  void Open();
+  QString Field() const { return field->toPlainText(); }
+  void SetField(const QString& text) { field->setPlainText(text); }
+  QComboBox* List() const { return screen->findChild<QComboBox*>(QStringLiteral("F(X) =")); }
+  QStringList Functions() const;
+  QLineEdit* Box(const char* name) const {
+    return screen->findChild<QLineEdit*>(QString::fromLatin1(name));
+  }
+  QWidget* Control(const char* name) const {
+    return screen->findChild<QWidget*>(QString::fromLatin1(name));
+  }
+  void PressKey(const char* caption) { Press(screen.get(), QString::fromLatin1(caption)); }
+
+  std::unique_ptr<MemorySettingsStore> store;
+  std::unique_ptr<PlotterScreen> screen;
+  EditLine* field = nullptr;
+};
+
+void PlotterScreenTest::init() {
+  store = std::make_unique<MemorySettingsStore>();
+  Open();
+}
+
+void PlotterScreenTest::Open() {
+  screen.reset();
+  screen = std::make_unique<PlotterScreen>(*store, nullptr);
+  field = screen->findChild<EditLine*>();
+  screen->resize(340, 560);
+  screen->show();
+  QVERIFY(QTest::qWaitForWindowActive(screen.get()));
+  screen->setFocus();
+}
+
+QStringList PlotterScreenTest::Functions() const {
+  QStringList functions;
+  for (int i = 0; i < List()->count(); ++i) functions << List()->itemText(i);
+  return functions;
+}
+
+void PlotterScreenTest::StartsAsAFreshStoreSays() {
+  QCOMPARE(Field(), QString());
+  QVERIFY(field->hasFocus());
+  QCOMPARE(Functions(), QStringList());
+  QVERIFY(Control("A")->isEnabled());
+  QVERIFY(!Control("D")->isEnabled());
+  QVERIFY(!Control("PB")->isEnabled());
+  QCOMPARE(Box("X min")->text(), QStringLiteral("-10"));
+  QCOMPARE(Box("X max")->text(), QStringLiteral("10"));
+  QCOMPARE(Box("Y min")->text(), QStringLiteral("-10"));
+  QCOMPARE(Box("Y max")->text(), QStringLiteral("10"));
+  for (const char* option : {"Grid", "Line", "Coordinates"}) {
+    QVERIFY(screen->findChild<QCheckBox*>(QString::fromLatin1(option))->isChecked());
+  }
+  QVERIFY(Control("DEG")->isVisible());
+  QVERIFY(!Control("RAD")->isVisible());
+  QVERIFY(screen->findChild<QPushButton*>(QStringLiteral("Plot"))->isDefault());
+}
+
+void PlotterScreenTest::StartsWithWhatIsStored() {
+  screen.reset();
+  Write(*store, settings::kAngleType, 2);
+  Write(*store, settings::kFunctionCount, 3);
+  for (int i = 0; i < 3; ++i) Write(*store, settings::kFunction, i, i == 1 ? L"x&y" : L"x");
+  Write(*store, settings::kXMin, L"-1e3");
+  Write(*store, settings::kYMax, L"x");
+  Write(*store, settings::kGrapHistoryCount, 2);
+  Open();
+  QCOMPARE(Functions(),
+           QStringList({QStringLiteral("x"), QStringLiteral("x&y"), QStringLiteral("x")}));
+  QCOMPARE(List()->currentIndex(), 0);
+  QCOMPARE(Field(), QString());
+  QVERIFY(!Control("A")->isEnabled());
+  QVERIFY(Control("D")->isEnabled());
+  QVERIFY(Control("PB")->isEnabled());
+  QVERIFY(Control("RAD")->isVisible());
+  QCOMPARE(Box("X min")->text(), QStringLiteral("-1e3"));
+  QCOMPARE(Box("Y max")->text(), QStringLiteral("x"));
+}
+
+void PlotterScreenTest::EveryControlHasAName() {
+  for (const Key& key : PlotterKeys()) {
+    const QString caption = FromWide(key.caption);
+    const auto* const button = screen->findChild<QPushButton*>(caption);
+    QVERIFY2(button, qPrintable(caption));
+    QCOMPARE(button->accessibleName(), caption);
+  }
+  for (const char* name : {"Function", "F(X) =", "A", "D", "X min", "X max", "Y min", "Y max",
+                           "Grid", "Line", "Coordinates"}) {
+    QVERIFY2(Control(name) && !Control(name)->accessibleName().isEmpty(), name);
+  }
+  for (const QLabel* label : screen->findChildren<QLabel*>()) QVERIFY(label->buddy());
+}
+
+void PlotterScreenTest::KeysTypeAFunction() {
+  for (const char* key : {"SIN", "X-Var"}) PressKey(key);
+  QTest::keyClick(field, Qt::Key_End);
+  for (const char* key : {"*", "1", "0", "0", ".", "Pi", "Exp", "X-Var"}) PressKey(key);
+  QCOMPARE(Field(), QStringLiteral("sin(x)*100.PiEx"));
+  QVERIFY(field->hasFocus());
+}
+
+void PlotterScreenTest::OperatorKeysWrapASelection() {
+  SetField(QStringLiteral("x+1"));
+  field->selectAll();
+  PressKey("-");
+  QCOMPARE(Field(), QStringLiteral("(x+1)-"));
+  field->selectAll();
+  PressKey("+");
+  QCOMPARE(Field(), QStringLiteral("((x+1)-)+"));
+  field->selectAll();
+  PressKey("X-Var");
+  QCOMPARE(Field(), QStringLiteral("x"));
+}
+
+void PlotterScreenTest::EditingKeysWork() {
+  SetField(QStringLiteral("x+12"));
+  QTest::keyClick(field, Qt::Key_End);
+  PressKey("BS");
+  QCOMPARE(Field(), QStringLiteral("x+1"));
+  QTest::keyClick(field, Qt::Key_Home);
+  PressKey("DEL");
+  QCOMPARE(Field(), QStringLiteral("+1"));
+  PressKey("CLR");
+  QCOMPARE(Field(), QString());
+}
+
+void PlotterScreenTest::ShiftAndAngleSwapTheirKeys() {
+  PressKey("DEG");
+  QVERIFY(!Control("DEG")->isVisible());
+  PressKey("RAD");
+  QVERIFY(Control("DEG")->isVisible());
+  PressKey("Shift");
+  QVERIFY(Control("ASIN")->isVisible());
+  QVERIFY(!Control("SIN")->isVisible());
+  PressKey("Shift");
+  QVERIFY(Control("SIN")->isVisible());
+}
+
+void PlotterScreenTest::AddListsTheFunction() {
+  QTest::keyClicks(field, QStringLiteral("x ^ 2"));
+  PressKey("A");
+  QCOMPARE(Functions(), QStringList(QStringLiteral("x^2")));
+  QCOMPARE(List()->currentIndex(), 0);
+  QCOMPARE(Field(), QString());
+  QVERIFY(field->hasFocus());
+  QVERIFY(Control("D")->isEnabled());
+  QVERIFY(Control("PB")->isEnabled());
+}
+
+void PlotterScreenTest::RefusalsAreShownAndTheFieldGetsTheFocus() {
+  PressKey("A");
+  QCOMPARE(ShownIcon(screen.get()), QMessageBox::Critical);
+  QCOMPARE(Answer(screen.get()), QStringLiteral("Equation is null."));
+  QTRY_VERIFY(field->hasFocus());
+  SetField(QStringLiteral("y"));
+  PressKey("A");
+  QCOMPARE(Answer(screen.get()), QStringLiteral("Can not use variable Y"));
+  QCOMPARE(Field(), QStringLiteral("y"));
+  QVERIFY(Control("PB")->isEnabled());
+}
+
+void PlotterScreenTest::ThreeFunctionsDisableAdd() {
+  for (const char* text : {"x", "x+1", "x+2"}) {
+    SetField(QString::fromLatin1(text));
+    PressKey("A");
+  }
+  QVERIFY(!Control("A")->isEnabled());
+  QCOMPARE(List()->currentIndex(), 2);
+  PressKey("D");
+  QCOMPARE(Answer(screen.get(), QMessageBox::Yes),
+           QStringLiteral("Are you sure you want to delete the selected graph equation?"));
+  QVERIFY(Control("A")->isEnabled());
+  QCOMPARE(List()->currentIndex(), 1);
+}
+
+void PlotterScreenTest::DeleteAsksFirst() {
+  SetField(QStringLiteral("x"));
+  PressKey("A");
+  PressKey("D");
+  QCOMPARE(ShownIcon(screen.get()), QMessageBox::Question);
+  Answer(screen.get(), QMessageBox::No);
+  QCOMPARE(Functions().size(), 1);
+  QTRY_VERIFY(!OpenWindow<QMessageBox>(screen.get()));
+  PressKey("D");
+  Answer(screen.get(), QMessageBox::Yes);
+  QCOMPARE(Functions(), QStringList());
+  QVERIFY(!Control("D")->isEnabled());
+}
+
+void PlotterScreenTest::ChoosingAFunctionPutsItIntoTheField() {
+  for (const char* text : {"x", "x+1"}) {
+    SetField(QString::fromLatin1(text));
+    PressKey("A");
+  }
+  List()->setFocus();
+  QTest::keyClick(List(), Qt::Key_Up);
+  QCOMPARE(Field(), QStringLiteral("x"));
+  QVERIFY(field->hasFocus());
+}
+
+void PlotterScreenTest::PbListsTheNewestFirst() {
+  for (const char* text : {"x+12345678901", "x+123456789012", "y"}) {
+    SetField(QString::fromLatin1(text));
+    PressKey("A");
+    Answer(screen.get());
+  }
+  SetField(QStringLiteral("2*"));
+  QTest::keyClick(field, Qt::Key_End);
+  PressKey("PB");
+  QMenu* menu = nullptr;
+  for (QMenu* open : screen->findChildren<QMenu*>(QStringLiteral("History"))) {
+    if (open->isVisible()) menu = open;
+  }
+  QVERIFY(menu);
+  QStringList entries;
+  for (const QAction* action : menu->actions()) entries << action->text();
+  QCOMPARE(entries, QStringList({QStringLiteral("y"), QStringLiteral("x+12345678..."),
+                                 QStringLiteral("x+12345678901")}));
+  menu->setActiveAction(menu->actions().at(1));
+  QTest::keyClick(menu, Qt::Key_Return);
+  QCOMPARE(Field(), QStringLiteral("2*x+123456789012"));
+}
+
+void PlotterScreenTest::PlotOpensTheGraph() {
+  PressKey("DEG");
+  Type(Box("Y max"), QStringLiteral("5"));
+  QTest::mouseClick(Control("Grid"), Qt::LeftButton, {}, QPoint(8, Control("Grid")->height() / 2));
+  SetField(QStringLiteral("x^2"));
+  PressKey("Plot");
+  auto* const view = OpenWindow<GraphViewDialog>(screen.get());
+  QVERIFY(view);
+  QVERIFY(view->isModal());
+  QCOMPARE(view->Graph().Ranges(), (PlotRanges{-10, 10, -10, 5}));
+  QCOMPARE(view->Graph().Options(), (PlotOptions{false, true, true}));
+  QCOMPARE(view->Graph().Angle(), AngleType::Radians);
+  QCOMPARE(FromWide(view->Graph().Functions().at(0).label), QStringLiteral("R:F1(X)=x^2"));
+  // The function was added on the way.
+  QCOMPARE(Functions(), QStringList(QStringLiteral("x^2")));
+  Press(view, QStringLiteral("Close"));
+  QTRY_VERIFY(!OpenWindow<GraphViewDialog>(screen.get()));
+  QVERIFY(field->hasFocus());
+}
+
+void PlotterScreenTest::EnterPlots() {
+  for (QWidget* const control :
+       {static_cast<QWidget*>(field), Control("X max"), Control("Line"), Control("F(X) =")}) {
+    SetField(QStringLiteral("x"));
+    control->setFocus();
+    QTest::keyClick(control, Qt::Key_Return);
+    auto* const view = OpenWindow<GraphViewDialog>(screen.get());
+    QVERIFY2(view, qPrintable(control->objectName()));
+    QTest::keyClick(view, Qt::Key_Escape);
+    QTRY_VERIFY(!OpenWindow<GraphViewDialog>(screen.get()));
+  }
+}
+
+void PlotterScreenTest::PlotSaysWhichBoxIsNoNumber() {
+  SetField(QStringLiteral("x"));
+  Type(Box("Y min"), QStringLiteral("-"));
+  PressKey("Plot");
+  QCOMPARE(Answer(screen.get()), QStringLiteral("Please enter a number."));
+  QTRY_VERIFY(Box("Y min")->hasFocus());
+  Type(Box("Y min"), QStringLiteral("10"));
+  PressKey("Plot");
+  QCOMPARE(Answer(screen.get()),
+           QStringLiteral("The maximum value of Y should be bigger than the minimum value of Y."));
+  QTRY_VERIFY(field->hasFocus());
+}
+
+void PlotterScreenTest::PlotShowsTheFunctionThatFails() {
+  screen.reset();
+  Write(*store, settings::kFunctionCount, 2);
+  Write(*store, settings::kFunction, 0, L"x");
+  Write(*store, settings::kFunction, 1, L"12345678");
+  Open();
+  PressKey("Plot");
+  QCOMPARE(Answer(screen.get()), QStringLiteral("12345... : Argument error : Missing variable X"));
+  QCOMPARE(List()->currentIndex(), 1);
+  QCOMPARE(Field(), QStringLiteral("12345678"));
+}
+
+void PlotterScreenTest::MemoryGoesToTheBoxThatHadTheFocus() {
+  Write(*store, settings::kMemoryVariable, 0, L"2.5");
+  const auto recall = [this] {
+    PressKey("M");
+    auto* const dialog = OpenWindow<MemoryVariableDialog>(screen.get());
+    QVERIFY(dialog);
+    dialog->findChild<TouchList*>()->setCurrentRow(0);
+    Press(dialog, QStringLiteral("Recall"));
+    QTRY_VERIFY(!OpenWindow<MemoryVariableDialog>(screen.get()));
+  };
+  SetField(QStringLiteral("x*"));
+  QTest::keyClick(field, Qt::Key_End);
+  recall();
+  QCOMPARE(Field(), QStringLiteral("x*2.5"));
+  QVERIFY(field->hasFocus());
+
+  Box("X max")->setFocus();
+  recall();
+  QCOMPARE(Box("X max")->text(), QStringLiteral("2.5"));
+  QVERIFY(Box("X max")->hasFocus());
+  QCOMPARE(Field(), QStringLiteral("x*2.5"));
+
+  PressKey("M");
+  Press(OpenWindow<MemoryVariableDialog>(screen.get()), QStringLiteral("Cancel"));
+  QCOMPARE(Box("X max")->text(), QStringLiteral("2.5"));
+}
+
+void PlotterScreenTest::MacroWithoutMacrosOpensTheEditor() {
+  PressKey("Mac");
+  QCOMPARE(ShownIcon(screen.get()), QMessageBox::Critical);
+  QCOMPARE(Answer(screen.get()), QStringLiteral("Not exist saved macro"));
+  QTRY_VERIFY(OpenWindow<MacroEditorDialog>(screen.get()));
+}
+
+void PlotterScreenTest::MacroInsertsItsCall() {
+  Write(*store, settings::kMacroCount, 1);
+  Write(*store, settings::kMacroName, 0, L"sq");
+  Write(*store, settings::kMacroType, 0, L"TYPE1 : F(X)");
+  Write(*store, settings::kMacroFormula, 0, L"x*x");
+  SetField(QStringLiteral("x"));
+  field->selectAll();
+  PressKey("Mac");
+  auto* const dialog = OpenWindow<MacroListDialog>(screen.get());
+  QVERIFY(dialog);
+  Press(dialog, QStringLiteral("OK"));
+  QCOMPARE(Field(), QStringLiteral("M:sq(x )"));
+  QTRY_VERIFY(field->hasFocus());
+}
+
+void PlotterScreenTest::ConfigIsStoredAtOnce() {
+  Write(*store, settings::kPrecision, 9);
+  Choose(screen.get(), QStringLiteral("File"), QStringLiteral("Config..."));
+  auto* const dialog = OpenWindow<DisplayFormattingDialog>(screen.get());
+  QVERIFY(dialog);
+  QCOMPARE(dialog->displayType, DisplayType::Currency);
+  QCOMPARE(dialog->decimalPlaces, 9);
+  Press(dialog, QStringLiteral("Fixed Point"));
+  Press(dialog, QStringLiteral("OK"));
+  QCOMPARE(Read(*store, settings::kDisplayType), 1);
+  QCOMPARE(Read(*store, settings::kPrecision), 9);
+}
+
+void PlotterScreenTest::CutCopyPaste() {
+  SetField(QStringLiteral("x+1"));
+  field->selectAll();
+  Box("X min")->setFocus();
+  const QString edit = QStringLiteral("Edit");
+  Choose(screen.get(), edit, QStringLiteral("Cut"));
+  QCOMPARE(Field(), QString());
+  QVERIFY(field->hasFocus());
+  Choose(screen.get(), edit, QStringLiteral("Paste"));
+  Choose(screen.get(), edit, QStringLiteral("Paste"));
+  QCOMPARE(Field(), QStringLiteral("x+1x+1"));
+  QCOMPARE(Box("X min")->text(), QStringLiteral("-10"));
+}
+
+void PlotterScreenTest::EverythingIsSavedAtTheEnd() {
+  SetField(QStringLiteral("x"));
+  PressKey("A");
+  Type(Box("X min"), QStringLiteral("-2.50"));
+  PressKey("DEG");
+  screen.reset();
+  QCOMPARE(Read(*store, settings::kFunctionCount), 1);
+  QCOMPARE(FromWide(Read(*store, settings::kFunction, 0)), QStringLiteral("x"));
+  QCOMPARE(FromWide(Read(*store, settings::kXMin)), QStringLiteral("-2.50"));
+  QCOMPARE(Read(*store, settings::kGrapHistoryCount), 1);
+  QCOMPARE(Read(*store, settings::kAngleType), 1);
+}
+
+void PlotterScreenTest::NothingIsSavedWhenABoxIsNoNumber() {
+  SetField(QStringLiteral("x"));
+  PressKey("A");
+  Type(Box("X min"), QStringLiteral("abc"));
+  screen.reset();
+  QCOMPARE(Read(*store, settings::kFunctionCount), 0);
+  QCOMPARE(Read(*store, settings::kGrapHistoryCount), 0);
+}
+
+void PlotterScreenTest::AHostileStoreIsHarmless() {
+  screen.reset();
+  Write(*store, settings::kFunctionCount, 2147483647);
+  Write(*store, settings::kGrapHistoryCount, 2147483647);
+  Write(*store, settings::kAngleType, -5);
+  for (int i = 0; i < 3; ++i) Write(*store, settings::kFunction, i, std::wstring(100000, L'('));
+  Write(*store, settings::kXMin, std::wstring(100000, L'9'));
+  Open();
+  QCOMPARE(Functions().size(), 3);
+  PressKey("Plot");
+  QCOMPARE(Answer(screen.get()), QStringLiteral("Please enter a number."));
+}
+
+void PlotterScreenTest::TargetsAreLargeEnough() {
+  for (const char* name : {"Function", "F(X) =", "A", "D", "X min", "X max", "Y min", "Y max",
+                           "Grid", "Line", "Coordinates"}) {
+    QVERIFY2(Control(name)->height() >= 30, name);
+  }
+  for (const Key& key : PlotterKeys()) {
+    const auto* const button = screen->findChild<QPushButton*>(FromWide(key.caption));
+    if (button->isVisible()) QVERIFY2(button->height() >= 30, qPrintable(button->text()));
+  }
+}
+
+void PlotterScreenTest::EverythingFitsAtTheSmallestSize() {
+  screen->resize(240, 320);
+  QTest::qWait(1);
+  QList<QWidget*> shown;
+  for (QWidget* control : screen->findChildren<QWidget*>()) {
+    const bool isTarget = qobject_cast<QAbstractButton*>(control) ||
+                          qobject_cast<QLineEdit*>(control) || qobject_cast<QComboBox*>(control) ||
+                          control == field;
+    if (isTarget && control->isVisible()) shown << control;
+  }
+  QVERIFY(shown.size() > 50);
+  for (const QWidget* control : shown) {
+    const QRect place(control->mapTo(screen.get(), QPoint()), control->size());
+    QVERIFY2(screen->rect().contains(place), qPrintable(control->objectName()));
+    for (const QWidget* other : shown) {
+      if (other == control) continue;
+      const QRect otherPlace(other->mapTo(screen.get(), QPoint()), other->size());
+      QVERIFY2(!place.intersects(otherPlace),
+               qPrintable(control->objectName() + u' ' + other->objectName()));
+    }
+  }
+}
+
+void PlotterScreenTest::TabReachesEverythingAsRead() {
+  QStringList reached;
+  field->setFocus();
+  for (int n = 0; n < 100; ++n) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    const QString name = QApplication::focusWidget()->objectName();
+    if (QApplication::focusWidget() == field) break;
+    reached << name;
+  }
+  const QStringList start{
+      QStringLiteral("F(X) ="), QStringLiteral("A"),     QStringLiteral("X min"),
+      QStringLiteral("X max"),  QStringLiteral("Y min"), QStringLiteral("Y max"),
+      QStringLiteral("Grid"),   QStringLiteral("Line"),  QStringLiteral("Coordinates"),
+      QStringLiteral("BS"),     QStringLiteral("DEL")};
+  QCOMPARE(reached.mid(0, start.size()), start);
+  QCOMPARE(reached.last(), QStringLiteral("Plot"));
+}
+
+}  // namespace vexa
+
+QTEST_MAIN(vexa::PlotterScreenTest)
+#include "PlotterScreenTest.moc"

@@ -1,0 +1,82 @@
+#include "toolkit/TouchComboBox.h"
+
+#include <QApplication>
+#include <QListView>
+#include <QTest>
+#include <memory>
+
+#include "support/ScreenMain.h"
+
+namespace vexa {
+
+class TouchComboBoxTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void init();
+  void TypedCharactersAreSearchedTogether();
+  void AfterAPauseTheSearchStartsAnew();
+  void ABlankOpensTheListUnlessItIsSearched();
+  void LongEntriesEndInDots();
+  void LongEntriesDoNotWidenIt();
+
+ private:
+  std::unique_ptr<TouchComboBox> box;
+};
+
+void TouchComboBoxTest::init() {
+  box = std::make_unique<TouchComboBox>(nullptr);
+  box->addItems({QStringLiteral("Inches"), QStringLiteral("Feet"), QStringLiteral("Light minutes"),
+                 QStringLiteral("Light years"), QStringLiteral("Links")});
+  box->resize(120, 32);
+  box->show();
+  QVERIFY(QTest::qWaitForWindowActive(box.get()));
+}
+
+void TouchComboBoxTest::TypedCharactersAreSearchedTogether() {
+  QTest::keyClicks(box.get(), QStringLiteral("lin"));
+  QCOMPARE(box->currentText(), QStringLiteral("Links"));
+}
+
+void TouchComboBoxTest::AfterAPauseTheSearchStartsAnew() {
+  QTest::keyClicks(box.get(), QStringLiteral("lin"));
+  QTest::qWait(QApplication::keyboardInputInterval() + 50);
+  QTest::keyClicks(box.get(), QStringLiteral("f"));
+  QCOMPARE(box->currentText(), QStringLiteral("Feet"));
+}
+
+void TouchComboBoxTest::ABlankOpensTheListUnlessItIsSearched() {
+  QTest::keyClicks(box.get(), QStringLiteral("light y"));
+  QCOMPARE(box->currentText(), QStringLiteral("Light years"));
+  QVERIFY(!box->view()->isVisible());
+  QTest::qWait(QApplication::keyboardInputInterval() + 50);
+  QTest::keyClick(box.get(), Qt::Key_Space);
+  QTRY_VERIFY(box->view()->isVisible());
+  box->hidePopup();
+}
+
+void TouchComboBoxTest::LongEntriesEndInDots() {
+  const QString start = QStringLiteral("Imperial fluid ounces");
+  box->addItem(start + QStringLiteral(" of maple syrup"));
+  box->addItem(start + QStringLiteral(" of honey"));
+  // Of both entries the same front is shown, and nothing is drawn across the arrow.
+  box->setCurrentIndex(5);
+  const QImage first = box->grab().toImage();
+  box->setCurrentIndex(6);
+  QCOMPARE(box->grab().toImage(), first);
+  QCOMPARE(box->currentText(), start + QStringLiteral(" of honey"));
+  box->setCurrentIndex(0);
+  QVERIFY(box->grab().toImage() != first);
+}
+
+void TouchComboBoxTest::LongEntriesDoNotWidenIt() {
+  const QSize before = box->minimumSizeHint();
+  box->addItem(QString(500, u'W'));
+  QCOMPARE(box->minimumSizeHint(), before);
+  QVERIFY(before.width() < 100);
+}
+
+}  // namespace vexa
+
+VEXA_SCREEN_MAIN(vexa::TouchComboBoxTest)
+#include "TouchComboBoxTest.moc"
