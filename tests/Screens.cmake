@@ -9,6 +9,8 @@ vexa_rule_test(app_window_rules_test app/CalculatorKeypadTest.cpp app/WindowPlac
 
 vexa_screen_test(file_settings_store_test display/FileSettingsStoreTest.cpp)
 vexa_screen_test(edit_line_test toolkit/EditLineTest.cpp)
+vexa_screen_test(boxes_test toolkit/BoxesTest.cpp)
+vexa_screen_test(file_dialogs_test toolkit/FileDialogsTest.cpp)
 vexa_screen_test(keypad_test toolkit/KeypadTest.cpp)
 vexa_screen_test(result_line_test toolkit/ResultLineTest.cpp)
 vexa_screen_test(theme_test toolkit/ThemeTest.cpp)

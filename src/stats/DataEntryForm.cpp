@@ -2,10 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 #include "display/WideText.h"
+#include "stats/EntryEdit.h"
 #include "stats/Statistics.h"
 #include "toolkit/KeyButton.h"
 #include "toolkit/KeyboardOnFocus.h"
@@ -40,7 +40,7 @@ DataEntryForm::DataEntryForm(std::span<const ListColumn> columns, QWidget* paren
 }
 
 void DataEntryForm::AddEdit(const ListColumn& column, bool isCount) {
-  auto* const edit = new QLineEdit(this);
+  auto* const edit = new EntryEdit(this);
   const QString caption = FromWide(column.caption);
   auto* const label = new QLabel(caption, this);
   label->setBuddy(edit);
@@ -81,7 +81,7 @@ void DataEntryForm::AddTotal() {
 
 EntryTexts DataEntryForm::Texts() const {
   EntryTexts texts;
-  for (const QLineEdit* const edit : edits) texts.push_back(edit->text().toStdWString());
+  for (const EntryEdit* const edit : edits) texts.push_back(edit->text().toStdWString());
   return texts;
 }
 

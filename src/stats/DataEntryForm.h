@@ -10,10 +10,11 @@
 
 class QHBoxLayout;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 
 namespace vexa {
+
+class EntryEdit;
 
 /// The edits of a row, one for each column, with "Add" and the total below them, or "Ok" and
 /// "Cancel" while a row is edited.
@@ -26,7 +27,7 @@ class DataEntryForm : public QWidget {
   EntryTexts Texts() const;
   void SetTexts(const EntryTexts& texts);
   /// The edit that had the focus last.
-  QLineEdit* LastEdit() const { return lastEdit; }
+  EntryEdit* LastEdit() const { return lastEdit; }
   /// Gives the edit at `field` the focus, with its whole text selected.
   void FocusEdit(std::size_t field);
   void FocusLastEdit();
@@ -47,9 +48,9 @@ class DataEntryForm : public QWidget {
 
   QHBoxLayout* editRow;
   QHBoxLayout* keyRow;
-  std::vector<QLineEdit*> edits;
+  std::vector<EntryEdit*> edits;
   std::vector<QPushButton*> buttons;
-  QLineEdit* lastEdit = nullptr;
+  EntryEdit* lastEdit = nullptr;
   QWidget* totals = nullptr;
   QLabel* total = nullptr;
 };

@@ -84,6 +84,12 @@ void DataTableView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+QModelIndex DataTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  if (action == MoveHome) return rows->index(0, 0);
+  if (action == MoveEnd) return rows->index(rows->rowCount() - 1, 0);
+  return QTableView::moveCursor(action, modifiers);
+}
+
 void DataTableView::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
   FitColumns();

@@ -37,6 +37,8 @@ class DataTableView : public QTableView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  /// Home and End go to the first and the last row.
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void resizeEvent(QResizeEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 

@@ -3,7 +3,6 @@
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -15,6 +14,7 @@
 #include "stats/DataEntryForm.h"
 #include "stats/DataFileAccess.h"
 #include "stats/DataTableView.h"
+#include "stats/EntryEdit.h"
 #include "toolkit/FileDialogs.h"
 #include "toolkit/KeyButton.h"
 #include "toolkit/Keypad.h"
@@ -329,7 +329,8 @@ void StatisticsScreen::OpenDialog(QDialog* dialog) {
 }
 
 void StatisticsScreen::RunEditCommand(EditCommand command) {
-  QLineEdit* const edit = form->LastEdit();
+  EntryEdit* const edit = form->LastEdit();
+  edit->Resume();
   switch (command) {
     case EditCommand::Cut:
       edit->cut();
@@ -341,7 +342,6 @@ void StatisticsScreen::RunEditCommand(EditCommand command) {
       edit->paste();
       break;
   }
-  edit->setFocus();
 }
 
 }  // namespace vexa

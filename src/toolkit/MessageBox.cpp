@@ -48,7 +48,8 @@ void AskEitherWay(QWidget* parent, const std::wstring& question,
   box->setEscapeButton(noAnswer);
   QObject::connect(box, &QMessageBox::finished, parent,
                    [answered = std::move(answered)](int answer) {
-                     if (answer != QMessageBox::Cancel) answered(answer == QMessageBox::Yes);
+                     const bool yes = answer == QMessageBox::Yes;
+                     if (yes || answer == QMessageBox::No) answered(yes);
                    });
   box->open();
 }
