@@ -29,6 +29,8 @@ namespace vexa {
 namespace {
 
 constexpr QSize kOpeningSize(400, 520);
+/// Leaves the room of the row to the number.
+constexpr int kCalWidth = 56;
 
 /// The keys of the menu's commands. Arrow keys move while the graph has the focus, so that lists
 /// and boxes keep theirs; the others work everywhere in the view.
@@ -111,7 +113,9 @@ void GraphViewDialog::BuildReading() {
   xBox->setMinimumHeight(kTouchHeight);
   row->addWidget(label);
   row->addWidget(xBox, 1);
-  SetDefault(AddButton(row, L"Cal", this, &GraphViewDialog::Cal));
+  QPushButton* const cal = AddButton(row, L"Cal", this, &GraphViewDialog::Cal);
+  cal->setMaximumWidth(kCalWidth);
+  SetDefault(cal);
   traceCheck->setObjectName(QStringLiteral("Trace"));
   traceCheck->setAccessibleName(QStringLiteral("Trace"));
   traceCheck->setMinimumHeight(kTouchHeight);
@@ -155,7 +159,10 @@ void GraphViewDialog::Refresh() {
   const QSignalBlocker blocker(functionList);
   functionList->setCurrentIndex(graph.SelectedFunction());
   FillReadOuts();
-  if (xBox->text().toStdWString() != graph.xBox) xBox->setText(FromWide(graph.xBox));
+  if (xBox->text().toStdWString() != graph.xBox) {
+    xBox->setText(FromWide(graph.xBox));
+    xBox->setCursorPosition(0);
+  }
   traceCheck->setChecked(graph.IsTracing());
 }
 

@@ -11,7 +11,7 @@ namespace vexa {
 namespace {
 
 /// Text size in pixels of the view: four range labels have room in their rows.
-constexpr qreal kTextSize = 11;
+constexpr qreal kTextSize = 10;
 constexpr qreal kThinnestLine = 1;
 
 QColor ColourOf(Colour colour) {

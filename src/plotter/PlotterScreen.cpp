@@ -24,16 +24,19 @@
 #include "toolkit/Keypad.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/TouchComboBox.h"
+#include "toolkit/TouchHeight.h"
 
 namespace vexa {
 namespace {
 
 /// Shares of the window's height, and the least that the field needs for a row.
 constexpr int kFieldShare = 4;
+constexpr int kListShare = 3;
 constexpr int kFormShare = 8;
 constexpr int kKeypadShare = 26;
 constexpr int kLeastFieldHeight = 26;
-constexpr int kLeastBoxHeight = 18;
+constexpr int kLeastBoxHeight = 17;
+constexpr int kLeastListHeight = 20;
 constexpr int kListButtonWidth = 40;
 
 }  // namespace
@@ -80,12 +83,13 @@ void PlotterScreen::BuildList() {
   list->setObjectName(QStringLiteral("F(X) ="));
   list->setAccessibleName(QStringLiteral("F(X) ="));
   row->addWidget(label);
+  GrowToTouchHeight(list, kLeastListHeight);
   row->addWidget(list, 1);
   addButton = NewListButton(row, QStringLiteral("A"), &PlotterScreen::Add);
   addButton->setToolTip(QStringLiteral("Add the function to the list"));
   deleteButton = NewListButton(row, QStringLiteral("D"), &PlotterScreen::Delete);
   deleteButton->setToolTip(QStringLiteral("Delete the selected function from the list"));
-  Content()->addLayout(row);
+  Content()->addLayout(row, kListShare);
   connect(list, &QComboBox::activated, this, &PlotterScreen::SelectFunction);
 }
 
@@ -97,7 +101,7 @@ QPushButton* PlotterScreen::NewListButton(QBoxLayout* row, const QString& captio
   button->setAutoDefault(false);
   button->setFocusPolicy(Qt::TabFocus);
   button->setFixedWidth(kListButtonWidth);
-  button->setMinimumHeight(list->minimumHeight());
+  GrowToTouchHeight(button, kLeastListHeight);
   row->addWidget(button);
   connect(button, &QPushButton::clicked, this, pressed);
   return button;

@@ -8,12 +8,13 @@
 #include <QVBoxLayout>
 
 #include "display/WideText.h"
+#include "toolkit/TouchHeight.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
 namespace {
 
-constexpr int kGap = 4;
+constexpr int kGap = 3;
 /// A minimum and its maximum stand side by side: label, box, label, box.
 constexpr int kBoxesInRow = 2;
 constexpr int kBoxRows = static_cast<int>(kRangeBoxCaptions.size()) / kBoxesInRow;
@@ -21,13 +22,6 @@ constexpr int kBoxRows = static_cast<int>(kRangeBoxCaptions.size()) / kBoxesInRo
 /// The options in the order of their check boxes.
 constexpr std::array<bool PlotOptions::*, kPlotOptionCaptions.size()> kOptions{
     &PlotOptions::grid, &PlotOptions::line, &PlotOptions::coordinates};
-
-/// Makes `control` as high as there is room, from `leastHeight` to what a finger hits.
-void GrowUpToTouch(QWidget* control, int leastHeight) {
-  control->setMinimumHeight(leastHeight);
-  control->setMaximumHeight(kTouchHeight);
-  control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-}
 
 }  // namespace
 
@@ -46,7 +40,7 @@ RangeForm::RangeForm(int leastHeight, QWidget* parent) : QWidget(parent) {
     checks[i] = new QCheckBox(caption, this);
     checks[i]->setObjectName(caption);
     checks[i]->setAccessibleName(caption);
-    GrowUpToTouch(checks[i], leastHeight);
+    GrowToTouchHeight(checks[i], leastHeight);
     row->addWidget(checks[i]);
   }
   const int rows = kBoxRows + 1;
@@ -62,7 +56,7 @@ void RangeForm::BuildBoxes(QGridLayout* grid, int leastHeight) {
     boxes[i]->setObjectName(caption);
     boxes[i]->setAccessibleName(caption);
     boxes[i]->setMinimumWidth(0);
-    GrowUpToTouch(boxes[i], leastHeight);
+    GrowToTouchHeight(boxes[i], leastHeight);
     label->setBuddy(boxes[i]);
     const int row = static_cast<int>(i) / kBoxesInRow;
     const int column = static_cast<int>(i) % kBoxesInRow * 2;

@@ -12,7 +12,7 @@ namespace vexa {
 namespace {
 
 /// Text size, and where its base line lies below its corner.
-constexpr int kTextSize = 11;
+constexpr int kTextSize = 10;
 constexpr int kBaseLine = 10;
 
 using Parts = std::initializer_list<std::string_view>;

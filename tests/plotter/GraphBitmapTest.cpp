@@ -106,7 +106,7 @@ TEST(SvgCanvas, WritesWhatIsDrawn) {
             "<path fill=\"none\" stroke-linecap=\"round\" stroke=\"#ff0000\" "
             "d=\"M4.5 100.75L5.5 99.00M6.5 97.50h0\"/>\n"
             "<ellipse cx=\"3\" cy=\"4\" rx=\"2\" ry=\"2\" fill=\"#0000ff\"/>\n"
-            "<text x=\"9\" y=\"115\" font-family=\"Tahoma, sans-serif\" font-size=\"11\" "
+            "<text x=\"9\" y=\"115\" font-family=\"Tahoma, sans-serif\" font-size=\"10\" "
             "fill=\"#000000\">&lt;&amp;&gt; \xD0\x96</text>\n"
             "</svg>\n");
 }

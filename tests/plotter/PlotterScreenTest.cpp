@@ -465,6 +465,7 @@ void PlotterScreenTest::TargetsAreLargeEnough() {
 void PlotterScreenTest::EverythingFitsAtTheSmallestSize() {
   screen->resize(240, 320);
   QTest::qWait(1);
+  QCOMPARE(screen->size(), QSize(240, 320));
   QList<QWidget*> shown;
   for (QWidget* control : screen->findChildren<QWidget*>()) {
     const bool isTarget = qobject_cast<QAbstractButton*>(control) ||
