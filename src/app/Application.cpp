@@ -1,5 +1,7 @@
 #include "app/Application.h"
 
+#include <signal.h>
+
 #include <QApplication>
 
 #include "app/MainFrame.h"
@@ -23,6 +25,9 @@ int Application::Run(int argc, char** argv) {
   // First of all: a second copy ends at once, without touching the settings.
   SingleInstance instance;
   if (!instance.Claim()) return 0;
+
+  // A file that may not grow further is a write that fails, and no reason to die.
+  signal(SIGXFSZ, SIG_IGN);
 
   QApplication application(argc, argv);
   application.setApplicationName(FromWide(settings::kSettingsKey));
