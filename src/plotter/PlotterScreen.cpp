@@ -34,9 +34,9 @@ constexpr int kFieldShare = 4;
 constexpr int kListShare = 3;
 constexpr int kFormShare = 8;
 constexpr int kKeypadShare = 26;
-constexpr int kLeastFieldHeight = 26;
+constexpr int kLeastFieldHeight = 25;
 constexpr int kLeastBoxHeight = 17;
-constexpr int kLeastListHeight = 20;
+constexpr int kLeastListHeight = 18;
 constexpr int kListButtonWidth = 40;
 
 }  // namespace
