@@ -9,7 +9,9 @@ namespace {
 using namespace expression_keys;
 using enum BaseType;
 
-constexpr KeyPlaces OnlyIn(BaseType base) { return {Bases({base}), Bases({base}), kAllBases}; }
+constexpr KeyPlaces OnlyIn(BaseType base) {
+  return {Bases({base}), Bases({base}), kAllBases};
+}
 constexpr KeyPlaces kBitwise{kIntegerBases, kIntegerBases, kAllBases};
 constexpr KeyPlaces kHexDigit = OnlyIn(Hex);
 
@@ -44,6 +46,8 @@ constexpr auto kAllKeys = MergeKeys(expression_keys::kKeys, kOwnKeys);
 
 }  // namespace
 
-std::span<const Key> CalculatorKeys() { return kAllKeys; }
+std::span<const Key> CalculatorKeys() {
+  return kAllKeys;
+}
 
 }  // namespace vexa

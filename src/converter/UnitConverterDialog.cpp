@@ -202,9 +202,9 @@ void UnitConverterDialog::ShowOutput() {
 }
 
 void UnitConverterDialog::PressKey(int index) {
-  static constexpr void (UnitConverterDialog::*kCommands[])() = {&UnitConverterDialog::accept,
-                                                          &UnitConverterDialog::reject,
-                                                          &UnitConverterDialog::OpenMemoryMenu};
+  static constexpr void (UnitConverterDialog::*kCommands[])() = {
+      &UnitConverterDialog::accept, &UnitConverterDialog::reject,
+      &UnitConverterDialog::OpenMemoryMenu};
   (this->*kCommands[index])();
 }
 

@@ -32,8 +32,8 @@ struct SaveOutcome {
 /// The editor of the user's conversions without its window.
 class UserConversionEditor {
  public:
-  /// Reads the conversions; the view state, the first one selected. `settingsStore` must outlive the
-  /// editor.
+  /// Reads the conversions; the view state, the first one selected. `settingsStore` must outlive
+  /// the editor.
   explicit UserConversionEditor(SettingsStore& settingsStore);
 
   /// Starts a new conversion with empty names and rate 0. Returns the box that gets the focus.

@@ -18,7 +18,9 @@ constexpr int kMostDecimals = 100;
 /// Magnitudes whose decimal logarithm lies outside +-kExponentLimit are shown with an exponent.
 constexpr double kExponentLimit = 12.0;
 
-bool IsLarge(double value) { return std::fabs(value) >= 1.0; }
+bool IsLarge(double value) {
+  return std::fabs(value) >= 1.0;
+}
 
 std::wstring IntegerText(double value, int radix) {
   char buffer[32];

@@ -16,9 +16,8 @@ struct Escape {
   wchar_t character;
   char letter;
 };
-constexpr Escape kEscapes[] = {{L'\n', 'n'}, {L'\r', 'r'}, {L'\t', 't'}, {L'\a', 'a'},
-                               {L'\b', 'b'}, {L'\f', 'f'}, {L'\v', 'v'}, {L'"', '"'},
-                               {L'\\', '\\'}};
+constexpr Escape kEscapes[] = {{L'\n', 'n'}, {L'\r', 'r'}, {L'\t', 't'}, {L'\a', 'a'}, {L'\b', 'b'},
+                               {L'\f', 'f'}, {L'\v', 'v'}, {L'"', '"'},  {L'\\', '\\'}};
 
 /// The value of a digit in `base`, or -1.
 template <typename Char>
@@ -44,7 +43,9 @@ std::int64_t ReadDigits(std::wstring_view text, std::size_t& at, int base, std::
   return value;
 }
 
-bool IsControl(wchar_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
+bool IsControl(wchar_t c) {
+  return c < 0x20 || (c >= 0x7F && c < 0xA0);
+}
 
 /// The character of the escape whose "\" stands before `at`, which moves behind the escape.
 wchar_t ReadEscape(std::wstring_view encoded, std::size_t& at) {
@@ -145,8 +146,8 @@ std::string EncodeIniText(std::wstring_view text) {
       AppendUtf8(encoded, c);
     }
   }
-  const bool needsQuotes = text.find_first_of(L";,=\"") != text.npos || text.starts_with(L' ') ||
-                           text.ends_with(L' ');
+  const bool needsQuotes =
+      text.find_first_of(L";,=\"") != text.npos || text.starts_with(L' ') || text.ends_with(L' ');
   return needsQuotes ? '"' + encoded + '"' : encoded;
 }
 

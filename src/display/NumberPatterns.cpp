@@ -19,7 +19,9 @@ std::string_view Written(Buffer& buffer, double value, std::chars_format format,
   return {buffer.data(), end};
 }
 
-std::wstring Widened(std::string_view text) { return {text.begin(), text.end()}; }
+std::wstring Widened(std::string_view text) {
+  return {text.begin(), text.end()};
+}
 
 }  // namespace
 

@@ -83,7 +83,9 @@ inline std::wstring Indexed(std::wstring_view prefix, int index) {
 }
 
 /// A stored count, which may be any integer, within 0 to `capacity`.
-inline int ClampCount(int stored, int capacity) { return std::clamp(stored, 0, capacity); }
+inline int ClampCount(int stored, int capacity) {
+  return std::clamp(stored, 0, capacity);
+}
 
 inline int Read(const SettingsStore& store, const IntSetting& setting) {
   return store.ReadSettingInt(setting.section, setting.entry, setting.defaultValue);

@@ -14,9 +14,13 @@ namespace {
 constexpr int kIntegerBits = 32;
 
 /// The number of places that a shift by `right` moves.
-int ShiftCount(double right) { return ToInt32(right) & 255; }
+int ShiftCount(double right) {
+  return ToInt32(right) & 255;
+}
 
-BinaryOutcome Multiply(double left, double right) { return {left * right}; }
+BinaryOutcome Multiply(double left, double right) {
+  return {left * right};
+}
 BinaryOutcome Divide(double left, double right) {
   if (right == 0.0) return {.exceeded = L"Division"};
   return {left / right};
@@ -36,8 +40,12 @@ BinaryOutcome ShiftRight(double left, double right) {
   if (right == 0.0) return {.exceeded = L">>"};
   return {static_cast<double>(ToInt32(left) >> std::min(ShiftCount(right), kIntegerBits - 1))};
 }
-BinaryOutcome Add(double left, double right) { return {left + right}; }
-BinaryOutcome Subtract(double left, double right) { return {left - right}; }
+BinaryOutcome Add(double left, double right) {
+  return {left + right};
+}
+BinaryOutcome Subtract(double left, double right) {
+  return {left - right};
+}
 BinaryOutcome And(double left, double right) {
   return {static_cast<double>(ToInt32(left) & ToInt32(right))};
 }
@@ -65,7 +73,7 @@ constexpr OperatorPass kDecimalProducts = MakePass(
 constexpr OperatorPass kDecimalSums = MakePass({{'+', Add}, {'-', Subtract}});
 constexpr OperatorPass kBaseProducts =
     MakePass({{'*', Multiply}, {'/', Divide}, {'<', ShiftLeft}, {'>', ShiftRight}});
-constexpr OperatorPass kBaseSums = MakePass(
-    {{'+', Add}, {'-', Subtract}, {'a', And}, {'o', Or}, {'x', Xor}, {'y', Xnor}});
+constexpr OperatorPass kBaseSums =
+    MakePass({{'+', Add}, {'-', Subtract}, {'a', And}, {'o', Or}, {'x', Xor}, {'y', Xnor}});
 
 }  // namespace vexa

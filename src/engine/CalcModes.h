@@ -19,7 +19,9 @@ constexpr BaseSet Bases(std::initializer_list<BaseType> bases) {
   for (const BaseType base : bases) set |= 1u << static_cast<int>(base);
   return set;
 }
-constexpr bool Contains(BaseSet set, BaseType base) { return set & Bases({base}); }
+constexpr bool Contains(BaseSet set, BaseType base) {
+  return set & Bases({base});
+}
 
 inline constexpr BaseSet kNoBase = 0;
 inline constexpr BaseSet kDecimalBase = Bases({BaseType::Dec});

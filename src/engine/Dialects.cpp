@@ -8,7 +8,9 @@
 namespace vexa {
 namespace {
 
-constexpr Token Operand(double value) { return {.isOperand = 1, .value = value}; }
+constexpr Token Operand(double value) {
+  return {.isOperand = 1, .value = value};
+}
 constexpr Token Variable(char name) {
   return {.op = static_cast<signed char>(name), .isOperand = 1};
 }

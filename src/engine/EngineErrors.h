@@ -11,13 +11,13 @@ enum class ErrorCode : int {
   UnmatchedParentheses = 1,
   Expression = 2,
   TooManyOperators = 3,
-  NeedsArgument = 4,   ///< argument: the function's name or "!"
-  NotSupported = 5,    ///< argument: the word, character or run; long ones are shortened
-  LimitExceeded = 6,   ///< argument: the operation's name
-  NonInteger = 7,      ///< argument: "!", "Combi.." or "Permu.."
+  NeedsArgument = 4,  ///< argument: the function's name or "!"
+  NotSupported = 5,   ///< argument: the word, character or run; long ones are shortened
+  LimitExceeded = 6,  ///< argument: the operation's name
+  NonInteger = 7,     ///< argument: "!", "Combi.." or "Permu.."
   LengthLimit = 8,
   NullExpression = 9,
-  Message = 10,        ///< argument: the complete sentence
+  Message = 10,  ///< argument: the complete sentence
 };
 
 /// The sentence of an operation whose operand or result is infinite or not a number, also used by

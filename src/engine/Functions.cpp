@@ -15,9 +15,15 @@ constexpr double kPerHalfPi = 0.6366197723675814;           // 2 / pi
 
 constexpr FunctionOutcome kRefused{0.0, true};
 
-bool InDegrees(AngleType angle) { return angle == AngleType::Degrees; }
-double ToDegrees(double x, AngleType angle) { return InDegrees(angle) ? x : x * kDegreesPerRadian; }
-double ToRadians(double x, AngleType angle) { return InDegrees(angle) ? x * kRadiansPerDegree : x; }
+bool InDegrees(AngleType angle) {
+  return angle == AngleType::Degrees;
+}
+double ToDegrees(double x, AngleType angle) {
+  return InDegrees(angle) ? x : x * kDegreesPerRadian;
+}
+double ToRadians(double x, AngleType angle) {
+  return InDegrees(angle) ? x * kRadiansPerDegree : x;
+}
 /// An inverse function's value in the current unit.
 double FromRadians(double x, AngleType angle) {
   return InDegrees(angle) ? x * kDegreesPerRadian : x;
@@ -59,7 +65,9 @@ FunctionOutcome Acos(double x, AngleType angle) {
   return {FromRadians(std::acos(x), angle)};
 }
 
-FunctionOutcome Atan(double x, AngleType angle) { return {FromRadians(std::atan(x), angle)}; }
+FunctionOutcome Atan(double x, AngleType angle) {
+  return {FromRadians(std::atan(x), angle)};
+}
 
 FunctionOutcome Log(double x, AngleType) {
   if (x <= 0.0) return kRefused;
@@ -77,12 +85,24 @@ FunctionOutcome Sqrt(double x, AngleType) {
   return {std::pow(x, 0.5)};
 }
 
-FunctionOutcome Exp(double x, AngleType) { return {std::exp(x)}; }
-FunctionOutcome Sinh(double x, AngleType) { return {std::sinh(x)}; }
-FunctionOutcome Cosh(double x, AngleType) { return {std::cosh(x)}; }
-FunctionOutcome Tanh(double x, AngleType) { return {std::tanh(x)}; }
-FunctionOutcome Abs(double x, AngleType) { return {std::fabs(x)}; }
-FunctionOutcome Int(double x, AngleType) { return {std::trunc(x)}; }
+FunctionOutcome Exp(double x, AngleType) {
+  return {std::exp(x)};
+}
+FunctionOutcome Sinh(double x, AngleType) {
+  return {std::sinh(x)};
+}
+FunctionOutcome Cosh(double x, AngleType) {
+  return {std::cosh(x)};
+}
+FunctionOutcome Tanh(double x, AngleType) {
+  return {std::tanh(x)};
+}
+FunctionOutcome Abs(double x, AngleType) {
+  return {std::fabs(x)};
+}
+FunctionOutcome Int(double x, AngleType) {
+  return {std::trunc(x)};
+}
 FunctionOutcome Frac(double x, AngleType) {
   double whole;
   return {std::modf(x, &whole)};
@@ -91,7 +111,7 @@ FunctionOutcome Frac(double x, AngleType) {
 using Function = FunctionOutcome (*)(double, AngleType);
 
 /// Indexed by FunctionCode - kSin.
-constexpr std::array<Function, 16> kFunctions{Sin, Cos, Tan,  Asin, Acos, Atan, Log, Ln,
+constexpr std::array<Function, 16> kFunctions{Sin, Cos,  Tan,  Asin, Acos, Atan, Log, Ln,
                                               Exp, Sinh, Cosh, Tanh, Sqrt, Abs,  Int, Frac};
 
 }  // namespace

@@ -11,8 +11,12 @@ namespace {
 /// A number's text is shorter than this.
 constexpr std::size_t kNumberLengthLimit = 31;
 
-bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
-bool IsHexLetter(wchar_t c) { return c >= L'a' && c <= L'f'; }
+bool IsDigit(wchar_t c) {
+  return c >= L'0' && c <= L'9';
+}
+bool IsHexLetter(wchar_t c) {
+  return c >= L'a' && c <= L'f';
+}
 
 /// What the scan of a decimal number found.
 struct DecimalScan {
@@ -84,7 +88,8 @@ std::size_t ReadInteger(std::wstring_view text, const IntegerBase& base, Token& 
     return 0;
   }
   double value = 0.0;
-  for (const wchar_t c : text.substr(0, length)) value = value * base.radix + DigitValue(c, base.radix);
+  for (const wchar_t c : text.substr(0, length))
+    value = value * base.radix + DigitValue(c, base.radix);
   token = {.isOperand = 1, .value = value};
   return length;
 }

@@ -23,7 +23,9 @@ struct Combinatoric {
 double Combinations(double n, double r) {
   return Factorial(n) / (Factorial(n - r) * Factorial(r));
 }
-double Permutations(double n, double r) { return Factorial(n) / Factorial(n - r); }
+double Permutations(double n, double r) {
+  return Factorial(n) / Factorial(n - r);
+}
 
 constexpr Combinatoric kCombination{L"Combination", L"Combi..", Combinations};
 constexpr Combinatoric kPermutation{L"Permutation", L"Permu..", Permutations};
@@ -98,7 +100,9 @@ void RunFunction(CalcEngine& engine, const ReductionStep& step) {
   argument = outcome.value;
 }
 
-void RunNegation(CalcEngine& engine, const ReductionStep& step) { Left(engine, step) *= -1.0; }
+void RunNegation(CalcEngine& engine, const ReductionStep& step) {
+  Left(engine, step) *= -1.0;
+}
 
 void RunComplement(CalcEngine& engine, const ReductionStep& step) {
   double& operand = Left(engine, step);

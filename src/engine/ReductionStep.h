@@ -16,10 +16,10 @@ using StepFunction = void (*)(CalcEngine& engine, const ReductionStep& step);
 /// One step of reducing an expression's records to a value.
 struct ReductionStep {
   StepFunction run = nullptr;
-  std::uint8_t left = 0;               ///< the operand that receives the result
-  std::uint8_t right = 0;              ///< the second operand of a binary step
-  std::int32_t code = 0;               ///< a function's or an error's code
-  BinaryOperation operation = nullptr; ///< of RunBinary
+  std::uint8_t left = 0;                ///< the operand that receives the result
+  std::uint8_t right = 0;               ///< the second operand of a binary step
+  std::int32_t code = 0;                ///< a function's or an error's code
+  BinaryOperation operation = nullptr;  ///< of RunBinary
 };
 
 /// left = left operation right; both must be finite.

@@ -31,14 +31,15 @@ constexpr std::uint8_t IndexOf(char symbol) {
 }
 
 std::uint8_t IndexOf(const Token& token) {
-  return token.isOperand && token.op == 0 ? IndexOf(kNumber)
-                                          : IndexOf(static_cast<char>(token.op));
+  return token.isOperand && token.op == 0 ? IndexOf(kNumber) : IndexOf(static_cast<char>(token.op));
 }
 
 /// A set of symbols, one bit each.
 using SymbolSet = std::uint32_t;
 
-constexpr SymbolSet Bit(std::uint8_t index) { return SymbolSet{1} << index; }
+constexpr SymbolSet Bit(std::uint8_t index) {
+  return SymbolSet{1} << index;
+}
 
 constexpr SymbolSet Only(std::string_view symbols) {
   SymbolSet set = 0;
@@ -47,7 +48,9 @@ constexpr SymbolSet Only(std::string_view symbols) {
 }
 
 constexpr SymbolSet kAny = ~SymbolSet{0};
-constexpr SymbolSet AllBut(std::string_view symbols) { return kAny & ~Only(symbols); }
+constexpr SymbolSet AllBut(std::string_view symbols) {
+  return kAny & ~Only(symbols);
+}
 
 /// What may stand before and behind the records with one of these symbols. A record without a rule
 /// may have any neighbours.
@@ -69,14 +72,22 @@ constexpr Rule kOpening{"(", AllBut(")"), AllBut(")")};
 constexpr Rule kClosing{")", AllBut("("), AllBut("(")};
 
 constexpr Rule kDecimalRules[] = {
-    kSigns,    kFactorial, kOperators,
-    kDivision, kOpening,   kClosing,
+    kSigns,
+    kFactorial,
+    kOperators,
+    kDivision,
+    kOpening,
+    kClosing,
     {"0xyz", AllBut(")"), AllBut("(F")},
 };
 
 constexpr Rule kFormulaRules[] = {
-    kSigns,    kFactorial, kOperators,
-    kDivision, kOpening,   kClosing,
+    kSigns,
+    kFactorial,
+    kOperators,
+    kDivision,
+    kOpening,
+    kClosing,
     {"0xyz", AllBut(")xyzF"), AllBut("(xyzF")},
 };
 

@@ -15,6 +15,8 @@ inline std::int32_t ToInt32(double value) {
 }
 
 /// Whether `value` is a whole number within the 32-bit range.
-inline bool IsInt32(double value) { return static_cast<double>(ToInt32(value)) == value; }
+inline bool IsInt32(double value) {
+  return static_cast<double>(ToInt32(value)) == value;
+}
 
 }  // namespace vexa

@@ -22,11 +22,11 @@ enum TokenKind : std::int32_t {
 /// One token of an expression. Every stage of the engine works in place on arrays of these; a
 /// record whose `op` and `isOperand` are both 0 is dead and passed over.
 struct Token {
-  signed char op = 0;           ///< operator, marker ("F" function, "x" "y" "z" variable) or 0
-  std::int32_t isOperand = 0;   ///< 1: the record holds a live value
-  std::int32_t funcCode = 0;    ///< a function's keyword code, else 0
-  std::int32_t kind = 0;        ///< a TokenKind
-  double value = 0.0;           ///< the operand's value
+  signed char op = 0;          ///< operator, marker ("F" function, "x" "y" "z" variable) or 0
+  std::int32_t isOperand = 0;  ///< 1: the record holds a live value
+  std::int32_t funcCode = 0;   ///< a function's keyword code, else 0
+  std::int32_t kind = 0;       ///< a TokenKind
+  double value = 0.0;          ///< the operand's value
 };
 
 }  // namespace vexa

@@ -3,8 +3,12 @@
 namespace vexa {
 namespace {
 
-bool IsLetter(wchar_t c) { return c >= L'a' && c <= L'z'; }
-bool IsShift(wchar_t c) { return c == L'<' || c == L'>'; }
+bool IsLetter(wchar_t c) {
+  return c >= L'a' && c <= L'z';
+}
+bool IsShift(wchar_t c) {
+  return c == L'<' || c == L'>';
+}
 
 /// Length of the run of characters at the front of `text` for which `belongs` holds.
 template <typename Predicate>

@@ -31,8 +31,8 @@ class ExpressionScreen : public ModeScreen {
   /// Runs the command of the key with this caption, which inserts nothing.
   virtual void RunKey(std::wstring_view caption) = 0;
 
-  /// Makes the keypad, below the controls that have been placed and after those that have been made:
-  /// the Tab key goes this way, too.
+  /// Makes the keypad, below the controls that have been placed and after those that have been
+  /// made: the Tab key goes this way, too.
   void PlaceKeypad(int stretch);
   /// Adds the "Edit" menu, whose commands work on the line. While `result` has the focus, Copy
   /// takes what is selected there.

@@ -76,8 +76,8 @@ struct KeyPlaces {
   BaseSet enabled = kAllBases;
 };
 
-/// A key of a keypad. The caption is its name, for people, tests and assistive technology; keys that
-/// take each other's place share a cell.
+/// A key of a keypad. The caption is its name, for people, tests and assistive technology; keys
+/// that take each other's place share a cell.
 struct Key {
   std::wstring_view caption;
   KeyRole role;

@@ -41,7 +41,9 @@ bool IsSign(const Key& key) {
           key.role == KeyRole::Equals);
 }
 
-QString FaceText(const Key& key) { return FromWide(key.face.empty() ? key.caption : key.face); }
+QString FaceText(const Key& key) {
+  return FromWide(key.face.empty() ? key.caption : key.face);
+}
 
 }  // namespace
 

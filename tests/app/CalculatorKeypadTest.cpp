@@ -12,11 +12,11 @@ namespace vexa {
 namespace {
 
 using enum BaseType;
-using test::Narrow;
 using test::Captions;
 using test::ExpectedDisabled;
 using test::ExpectedShown;
 using test::kBases;
+using test::Narrow;
 
 constexpr int kRows = 8;
 constexpr int kColumns = 6;
@@ -84,7 +84,8 @@ TEST(CalculatorKeypad, CaptionsAreUniqueBesidesTheShiftPair) {
 }
 
 TEST(CalculatorKeypad, AngleKeysShareAPlace) {
-  for (const AngleType angle : {AngleType::Degrees, AngleType::Radians, static_cast<AngleType>(7)}) {
+  for (const AngleType angle :
+       {AngleType::Degrees, AngleType::Radians, static_cast<AngleType>(7)}) {
     const KeypadState state{angle, false, Dec, false};
     const bool degrees = angle == AngleType::Degrees;
     EXPECT_EQ(Shown(state).contains(L"DEG"), degrees);

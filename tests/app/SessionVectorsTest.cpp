@@ -17,7 +17,9 @@
 namespace vexa {
 namespace {
 
-std::wstring Text(const QJsonValue& value) { return value.toString().toStdWString(); }
+std::wstring Text(const QJsonValue& value) {
+  return value.toString().toStdWString();
+}
 
 void StoreMacros(SettingsStore& store, const QJsonArray& macros) {
   Write(store, settings::kMacroCount, static_cast<int>(macros.size()));

@@ -22,12 +22,12 @@ void ExpectLines(const std::vector<PopupCommand>& items, const std::vector<Line>
 
 TEST(MemoryMenu, AllLinesWithAResult) {
   ExpectLines(MemoryMenuCommands(true), {{L"Memory +", 7},
-                                      {L"Memory -", 6},
-                                      {L"Memory Recall", 5},
-                                      {L"Memory Clear", 4},
-                                      {L"", 3},
-                                      {L"ReCall MemVar", 2},
-                                      {L"Store MemVar", 1}});
+                                         {L"Memory -", 6},
+                                         {L"Memory Recall", 5},
+                                         {L"Memory Clear", 4},
+                                         {L"", 3},
+                                         {L"ReCall MemVar", 2},
+                                         {L"Store MemVar", 1}});
 }
 
 TEST(MemoryMenu, WithoutAResultNothingThatUsesIt) {

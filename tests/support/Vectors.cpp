@@ -41,7 +41,9 @@ std::int64_t Ordered(double value) {
 
 }  // namespace
 
-std::string VectorPath(const std::string& name) { return VEXA_VECTORS "/" + name; }
+std::string VectorPath(const std::string& name) {
+  return VEXA_VECTORS "/" + name;
+}
 
 std::vector<std::vector<std::string>> ReadTable(const std::string& name) {
   std::ifstream file(VectorPath(name));
