@@ -11,6 +11,8 @@ namespace {
 
 /// The values that a prediction reads: X and Y.
 constexpr std::size_t kPredictionValues = 2;
+/// The characters that an edit holds; a cell of a file may be longer.
+constexpr std::size_t kLongestEdit = 32767;
 
 }  // namespace
 
@@ -33,7 +35,7 @@ EntryFault Statistics::Add(const EntryTexts& texts) {
 EntryTexts Statistics::Edit(std::size_t row) {
   EntryTexts texts;
   for (std::size_t column = 0; column < list.Columns().size(); ++column) {
-    const std::string_view cell = list.Cell(row, column);
+    const std::string_view cell = list.Cell(row, column).substr(0, kLongestEdit);
     texts.emplace_back(cell.begin(), cell.end());
   }
   list.Edit(row);

@@ -84,6 +84,11 @@ TEST_F(StatisticsTest, EditsARow) {
   EXPECT_EQ(statistics.List().Total(), 7);
 }
 
+TEST_F(StatisticsTest, EditsTakeWhatTheyCanHoldOfACell) {
+  statistics.Load(test::DataOf(3, {{std::string(100000, '7'), "2", "1"}}));
+  EXPECT_EQ(statistics.Edit(0), (EntryTexts{std::wstring(32767, L'7'), L"2", L"1"}));
+}
+
 TEST_F(StatisticsTest, ShowsEveryStatistic) {
   Add({L"1", L"10", L"2"});
   Add({L"3", L"1000", L"1"});
