@@ -202,10 +202,13 @@ void UnitConverterDialog::ShowOutput() {
 }
 
 void UnitConverterDialog::PressKey(int index) {
-  static constexpr void (UnitConverterDialog::*kCommands[])() = {
-      &UnitConverterDialog::accept, &UnitConverterDialog::reject,
-      &UnitConverterDialog::OpenMemoryMenu};
-  (this->*kCommands[index])();
+  using Command = void (*)(UnitConverterDialog&);
+  static constexpr Command kCommands[] = {
+      [](UnitConverterDialog& dialog) { dialog.accept(); },
+      [](UnitConverterDialog& dialog) { dialog.reject(); },
+      [](UnitConverterDialog& dialog) { dialog.OpenMemoryMenu(); },
+  };
+  kCommands[index](*this);
 }
 
 void UnitConverterDialog::ChangeCategory(int chosen) {

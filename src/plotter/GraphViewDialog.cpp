@@ -268,6 +268,8 @@ void GraphViewDialog::Save() {
   dialog->setObjectName(QStringLiteral("SaveGraph"));
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
+  // The toolkit's own dialog asks before overwriting also when it has added the suffix itself.
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
   QStringList filters;
   for (const GraphFormat& format : GraphFormats()) filters << QString::fromLatin1(format.filter);
   dialog->setNameFilters(filters);

@@ -160,6 +160,7 @@ void PlotterScreen::Delete() {
   AskYesNo(this, std::wstring(kDeleteFunctionQuestion), [this] {
     functions.DeleteSelected();
     Refresh();
+    Line()->setFocus();
   });
 }
 
