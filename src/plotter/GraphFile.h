@@ -19,9 +19,6 @@ struct GraphFormat {
 /// The formats in the order in which they are offered.
 std::span<const GraphFormat> GraphFormats();
 
-/// What is shown when a file cannot be written.
-inline constexpr std::wstring_view kFileError = L"File Error";
-
 /// Writes the picture of `graph` to the file at `path`, in the format that its suffix names, else
 /// the first one. The file is replaced whole, or left as it was: then the result is false.
 bool SaveGraph(const GraphModel& graph, const QString& path);

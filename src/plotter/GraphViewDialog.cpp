@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,6 +20,8 @@
 #include "plotter/GraphFile.h"
 #include "plotter/PlotView.h"
 #include "plotter/PlotterOptionsDialog.h"
+#include "toolkit/FileDialogs.h"
+#include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/TouchComboBox.h"
 #include "toolkit/TouchSize.h"
@@ -111,6 +112,7 @@ void GraphViewDialog::BuildReading() {
   xBox->setObjectName(QStringLiteral("X ="));
   xBox->setAccessibleName(QStringLiteral("X ="));
   xBox->setMinimumHeight(kTouchHeight);
+  new KeyboardOnFocus(xBox);
   row->addWidget(label);
   row->addWidget(xBox, 1);
   QPushButton* const cal = AddButton(row, L"Cal", this, &GraphViewDialog::Cal);
@@ -264,30 +266,18 @@ void GraphViewDialog::Configure() {
 
 void GraphViewDialog::Save() {
   RemoveRubberBand();
-  auto* const dialog = new QFileDialog(this, QStringLiteral("Save Graph"));
-  dialog->setObjectName(QStringLiteral("SaveGraph"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  // The toolkit's own dialog asks before overwriting also when it has added the suffix itself.
-  dialog->setOption(QFileDialog::DontUseNativeDialog);
-  QStringList filters;
-  for (const GraphFormat& format : GraphFormats()) filters << QString::fromLatin1(format.filter);
-  dialog->setNameFilters(filters);
-  // A name without a suffix gets the chosen format's.
-  const auto follow = [dialog, filters](const QString& filter) {
-    const auto chosen = static_cast<std::size_t>(std::max<qsizetype>(0, filters.indexOf(filter)));
-    dialog->setDefaultSuffix(QString::fromLatin1(GraphFormats()[chosen].suffix));
-  };
-  follow(filters.first());
-  connect(dialog, &QFileDialog::filterSelected, dialog, follow);
-  connect(dialog, &QFileDialog::fileSelected, this, &GraphViewDialog::SaveAs);
-  dialog->open();
+  std::vector<file_dialogs::FileKind> kinds;
+  for (const GraphFormat& format : GraphFormats()) {
+    kinds.push_back({QString::fromLatin1(format.filter), QString::fromLatin1(format.suffix)});
+  }
+  file_dialogs::AskForFileToSave(this, kinds, [this](const file_dialogs::Answer& path) {
+    if (path) SaveAs(*path);
+  });
 }
 
 void GraphViewDialog::SaveAs(const QString& path) {
-  if (!SaveGraph(graph, path)) {
-    ShowErrorBox(this, std::wstring(kFileError), [this] { view->setFocus(); });
-  }
+  if (SaveGraph(graph, path)) return;
+  ShowErrorBox(this, std::wstring(file_dialogs::kFileError), [this] { view->setFocus(); });
 }
 
 }  // namespace vexa

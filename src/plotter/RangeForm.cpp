@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "display/WideText.h"
+#include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/TouchHeight.h"
 #include "toolkit/TouchSize.h"
 
@@ -57,6 +58,7 @@ void RangeForm::BuildBoxes(QGridLayout* grid, int leastHeight) {
     boxes[i]->setAccessibleName(caption);
     boxes[i]->setMinimumWidth(0);
     GrowToTouchHeight(boxes[i], leastHeight);
+    new KeyboardOnFocus(boxes[i]);
     label->setBuddy(boxes[i]);
     const int row = static_cast<int>(i) / kBoxesInRow;
     const int column = static_cast<int>(i) % kBoxesInRow * 2;

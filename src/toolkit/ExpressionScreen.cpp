@@ -69,21 +69,21 @@ void ExpressionScreen::RefreshKeypad() {
 }
 
 void ExpressionScreen::BuildEditMenu(ResultLine* result) {
-  AddEditMenu([this, result](EditCommand command) {
+  AddEditMenu([edited = line, result](EditCommand command) {
     // The result has its own selection; the focus tells which one is meant.
     if (command == EditCommand::Copy && result && result->hasFocus()) return result->copy();
     switch (command) {
       case EditCommand::Cut:
-        line->cut();
+        edited->cut();
         break;
       case EditCommand::Copy:
-        line->copy();
+        edited->copy();
         break;
       case EditCommand::Paste:
-        line->paste();
+        edited->paste();
         break;
     }
-    line->setFocus();
+    edited->setFocus();
   });
 }
 

@@ -27,10 +27,10 @@ class WritableFiles : public QSortFilterProxyModel {
   }
 };
 
-void Open(QFileDialog* dialog, const QString& name, const QString& filter, Answered answered) {
+void Open(QFileDialog* dialog, const QString& name, const QStringList& filters, Answered answered) {
   dialog->setObjectName(name);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setNameFilter(filter);
+  dialog->setNameFilters(filters);
   QObject::connect(dialog, &QFileDialog::finished, dialog->parentWidget(),
                    [dialog, answered = std::move(answered)](int outcome) {
                      const bool chosen = outcome == QDialog::Accepted;
@@ -55,17 +55,30 @@ void AskForFileToOpen(QWidget* parent, const QString& filter, Answered answered)
   auto* const dialog = new QFileDialog(parent, QStringLiteral("Load"));
   dialog->setAcceptMode(QFileDialog::AcceptOpen);
   dialog->setFileMode(QFileDialog::ExistingFile);
-  Open(dialog, QStringLiteral("LoadFile"), filter, std::move(answered));
+  Open(dialog, QStringLiteral("LoadFile"), {filter}, std::move(answered));
 }
 
-void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered) {
+void AskForFileToSave(QWidget* parent, const std::vector<FileKind>& kinds, Answered answered) {
   if (AnsweredByTest(answered)) return;
   auto* const dialog = new QFileDialog(parent, QStringLiteral("Save"));
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   // The desktop's own dialog cannot leave files out.
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   dialog->setProxyModel(new WritableFiles(dialog));
-  Open(dialog, QStringLiteral("SaveFile"), filter, std::move(answered));
+  QStringList filters;
+  for (const FileKind& kind : kinds) filters << kind.filter;
+  const auto follow = [dialog, kinds](const QString& filter) {
+    for (const FileKind& kind : kinds) {
+      if (kind.filter == filter) dialog->setDefaultSuffix(kind.suffix);
+    }
+  };
+  follow(filters.value(0));
+  QObject::connect(dialog, &QFileDialog::filterSelected, dialog, follow);
+  Open(dialog, QStringLiteral("SaveFile"), filters, std::move(answered));
+}
+
+void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered) {
+  AskForFileToSave(parent, std::vector<FileKind>{{filter, {}}}, std::move(answered));
 }
 
 void AddNextAnswer(const Answer& answer) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 class QWidget;
 
@@ -20,8 +21,16 @@ using Answered = std::function<void(const Answer& path)>;
 
 /// Asks for a file to read. `filter`: description and pattern, e.g. "TXT(*.txt)".
 void AskForFileToOpen(QWidget* parent, const QString& filter, Answered answered);
-/// Asks for a file to write, which may exist: then the user is asked whether to replace it. Files
-/// that must not be written are not shown. No suffix is added to a name.
+/// A kind of file: description and pattern, e.g. "TXT(*.txt)", and the suffix that a name without
+/// one gets; none: the name stays as it is.
+struct FileKind {
+  QString filter;
+  QString suffix;
+};
+/// Asks for a file to write, of one of these kinds, which may exist: then the user is asked whether
+/// to replace it. Files that must not be written are not shown.
+void AskForFileToSave(QWidget* parent, const std::vector<FileKind>& kinds, Answered answered);
+/// The same for a single kind; no suffix is added to a name.
 void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered);
 
 /// For tests: the next dialogs do not open and end with these answers, in this order.

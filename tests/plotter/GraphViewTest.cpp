@@ -20,6 +20,7 @@
 #include "plotter/PlotView.h"
 #include "plotter/PlotterOptionsDialog.h"
 #include "plotter/ScreenSteps.h"
+#include "toolkit/FileDialogs.h"
 
 namespace vexa {
 
@@ -474,8 +475,8 @@ void GraphViewTest::SaveWritesTheChosenFormat() {
 }
 
 void GraphViewTest::SaveSaysThatTheFileCannotBeWritten() {
-  QFileDialog* const dialog = OpenSave();
-  emit dialog->fileSelected(QStringLiteral("/nowhere/at/all/graph.bmp"));
+  file_dialogs::AddNextAnswer(QStringLiteral("/nowhere/at/all/graph.bmp"));
+  Press(view, QStringLiteral("Save Graph"));
   QCOMPARE(Answer(view), QStringLiteral("File Error"));
 }
 
