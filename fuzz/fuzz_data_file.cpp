@@ -23,7 +23,7 @@ DataSet Read(std::size_t columns, std::string_view bytes, std::size_t pieceSize)
 
 std::string Saved(const PackedRows& rows) {
   std::string bytes;
-  WriteRows(rows, 0, rows.Count(), bytes);
+  for (std::size_t row = 0; row < rows.Count(); ++row) AppendRow(rows, row, bytes);
   return bytes;
 }
 

@@ -12,10 +12,6 @@
 namespace vexa {
 namespace {
 
-/// What may stand right before the first call, and right behind any call.
-constexpr std::wstring_view kBeforeCall = L"^+-*/%(";
-constexpr std::wstring_view kBehindCall = L"^+-*/%)";
-
 /// Decimals of a value that is put back into the expression.
 constexpr int kValueDecimals = 6;
 
@@ -96,7 +92,7 @@ MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macr
     return expansion;
   }
   // Only the first call's left neighbour is tested; the engine sees the others'.
-  if (mark > 0 && kBeforeCall.find(expression[mark - 1]) == std::wstring_view::npos) {
+  if (!MayPrecedeCall(expression.substr(0, mark))) {
     expansion.error = kExpressionErrorText;
     return expansion;
   }
@@ -107,8 +103,7 @@ MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macr
     expansion.expression += expression.substr(0, mark);
     expression.remove_prefix(mark + kMacroCallMark.size());
     const std::optional<MacroCallText> call = ReadMacroCall(expression);
-    if (!call || (call->length < expression.size() &&
-                  kBehindCall.find(expression[call->length]) == std::wstring_view::npos)) {
+    if (!call) {
       expansion.error = kExpressionErrorText;
       return expansion;
     }

@@ -17,9 +17,11 @@ std::wstring InParentheses(std::wstring_view text) {
   return enclosed;
 }
 
+using Arguments = std::vector<std::wstring_view>;
+
 /// The texts between the commas of `arguments`.
-std::vector<std::wstring_view> Split(std::wstring_view arguments) {
-  std::vector<std::wstring_view> texts;
+Arguments Split(std::wstring_view arguments) {
+  Arguments texts;
   while (true) {
     const std::size_t comma = std::min(arguments.find(L','), arguments.size());
     texts.push_back(arguments.substr(0, comma));
@@ -28,13 +30,15 @@ std::vector<std::wstring_view> Split(std::wstring_view arguments) {
   }
 }
 
+/// Which variables an argument has is checked with the whole formula.
+constexpr FormulaType kAnyVariables{-1};
+
 bool IsLetter(wchar_t c) {
   return ToLowerAscii(c) >= L'a' && ToLowerAscii(c) <= L'z';
 }
 
 /// `formula` with the texts of `arguments` in the places of x, y and z. Words are left alone.
-std::wstring Substituted(std::wstring_view formula,
-                         const std::vector<std::wstring_view>& arguments) {
+std::wstring Substituted(std::wstring_view formula, const Arguments& arguments) {
   std::wstring text;
   while (!formula.empty()) {
     const std::size_t word = static_cast<std::size_t>(
@@ -51,6 +55,40 @@ std::wstring Substituted(std::wstring_view formula,
   return text;
 }
 
+std::optional<int> FindMacro(const MacroTable& macros, std::wstring_view name) {
+  std::optional<int> index = macros.Find(name);
+  for (int i = 0; i < macros.Count() && !index; ++i) {
+    std::wstring known = macros.At(i).name;
+    std::erase(known, L' ');
+    if (known == name) index = i;
+  }
+  return index;
+}
+
+bool IsFormula(std::wstring_view text, FormulaType type) {
+  ExprParser parser;
+  parser.formulaType = type;
+  parser.Validate(text);
+  return parser.errorText.empty();
+}
+
+/// What `call` stands for, or a sentence in `error`.
+std::wstring Inlined(const MacroCallText& call, const MacroTable& macros, std::wstring& error) {
+  const std::optional<int> index = FindMacro(macros, call.name);
+  if (!index) return error = kMacroNameError, L"";
+  const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
+  const Arguments arguments = Split(call.arguments);
+  const bool areFormulas = std::ranges::all_of(
+      arguments, [](std::wstring_view argument) { return IsFormula(argument, kAnyVariables); });
+  if (call.commas != static_cast<std::size_t>(type) || arguments.size() != call.commas + 1 ||
+      !areFormulas) {
+    return error = kMacroArgumentError, L"";
+  }
+  const std::wstring formula = macros.ReadFormula(*index);
+  if (!IsFormula(formula, type)) return error = kMacroFormulaError, L"";
+  return InParentheses(Substituted(formula, arguments));
+}
+
 }  // namespace
 
 std::wstring InlineMacros(std::wstring_view formula, const MacroTable& macros,
@@ -58,17 +96,17 @@ std::wstring InlineMacros(std::wstring_view formula, const MacroTable& macros,
   std::wstring text;
   error.clear();
   std::size_t mark = formula.find(kMacroCallMark);
+  // Only the first call's left neighbour is tested; the engine sees the others'.
+  if (mark != std::wstring_view::npos && !MayPrecedeCall(formula.substr(0, mark))) {
+    return error = kExpressionErrorText;
+  }
   while (mark != std::wstring_view::npos) {
     text += formula.substr(0, mark);
     formula.remove_prefix(mark + kMacroCallMark.size());
     const std::optional<MacroCallText> call = ReadMacroCall(formula);
-    if (!call) return error = kExpressionErrorText, text;
-    const std::optional<int> index = macros.Find(call->name);
-    if (!index) return error = kMacroNameError, text;
-    const std::vector<std::wstring_view> arguments = Split(call->arguments);
-    const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
-    if (call->commas != static_cast<std::size_t>(type)) return error = kMacroArgumentError, text;
-    text += InParentheses(Substituted(macros.ReadFormula(*index), arguments));
+    if (!call) return error = kExpressionErrorText;
+    text += Inlined(*call, macros, error);
+    if (!error.empty()) return error;
     formula.remove_prefix(call->length);
     mark = formula.find(kMacroCallMark);
   }

@@ -18,8 +18,11 @@ struct MacroCallText {
   std::size_t length = 0;
 };
 
+/// Whether a call may stand right behind `text`: at the start, behind an operator or behind "(".
+bool MayPrecedeCall(std::wstring_view text);
+
 /// The call at the front of `text`, which begins behind the mark; none when its parentheses never
-/// close.
+/// close, or when something else than an operator or ")" comes right behind it.
 std::optional<MacroCallText> ReadMacroCall(std::wstring_view text);
 
 }  // namespace vexa

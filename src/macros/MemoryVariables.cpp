@@ -19,6 +19,13 @@ double MemoryVariables::Value(int index) const {
   return std::isfinite(value) ? value : 0.0;
 }
 
+std::wstring MemoryVariables::FormulaText(int index) const {
+  std::wstring text = Text(index);
+  if (!ReadNumberBox(text)) return L"0";
+  std::erase(text, L',');
+  return text;
+}
+
 std::wstring MemoryVariables::Line(int index) const {
   const std::wstring number = std::to_wstring(index + 1);
   return L"Mem" + std::wstring(number.size() < 2 ? L"0" : L"") + number + L" = " + Text(index);

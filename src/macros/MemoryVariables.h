@@ -23,6 +23,9 @@ class MemoryVariables {
   std::wstring Text(int index) const;
   /// The number in slot `index`; 0 when its text is none, or none that can be calculated with.
   double Value(int index) const;
+  /// The number in slot `index` as a formula can hold it: its text without separators at thousands;
+  /// "0" when the text is no number.
+  std::wstring FormulaText(int index) const;
   /// Slot `index` as the list shows it: Mem01 = 2.5
   std::wstring Line(int index) const;
   void Store(int index, std::wstring_view text);

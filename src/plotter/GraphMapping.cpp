@@ -34,7 +34,8 @@ std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ra
 
 int AxisRow(const PlotRanges& ranges) {
   if (!(ranges.yMax > 0.0 && ranges.yMin < 0.0)) return 0;
-  return PixelWithin(std::trunc(ExactRow(0.0, ranges)), kTop, kBottom).value_or(0);
+  // Rounding may put it one row above the area, on the frame.
+  return PixelWithin(std::trunc(ExactRow(0.0, ranges)), kTop - 1, kBottom).value_or(0);
 }
 
 int AxisColumn(const PlotRanges& ranges) {

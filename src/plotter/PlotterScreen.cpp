@@ -206,7 +206,7 @@ void PlotterScreen::RecallVariable() {
 }
 
 void PlotterScreen::TakeVariable(QWidget* target, int index) {
-  const std::wstring text = MemoryVariables(store).Text(index);
+  const std::wstring text = MemoryVariables(store).FormulaText(index);
   if (target == Line()) return InsertIntoLine(text);
   qobject_cast<QLineEdit*>(target)->setText(FromWide(text));
 }

@@ -21,7 +21,9 @@ EntryFault ReadEntry(const EntryTexts& texts, DataEntry& entry) {
   const std::size_t countField = texts.size() - 1;
   EntryFault fault = ReadValues(texts, countField, entry);
   if (!fault.sentence.empty()) return fault;
-  return {ReadIntegerBox(texts[countField], Limits::min(), Limits::max(), entry.count), countField};
+  const bool read =
+      ReadIntegerBox(texts[countField], Limits::min(), Limits::max(), entry.count).empty();
+  return {std::wstring(read ? L"" : kEnterInteger), countField};
 }
 
 }  // namespace vexa

@@ -72,14 +72,12 @@ DataSet DataFileReader::Finish() {
   return std::exchange(data, DataSet{PackedRows(texts.size())});
 }
 
-void WriteRows(const PackedRows& rows, std::size_t from, std::size_t to, std::string& bytes) {
-  for (std::size_t row = from; row < to; ++row) {
-    for (std::size_t column = 0; column < rows.Columns(); ++column) {
-      if (column > 0) bytes += '\t';
-      bytes += rows.Cell(row, column);
-    }
-    bytes += "\r\n";
+void AppendRow(const PackedRows& rows, std::size_t row, std::string& bytes) {
+  for (std::size_t column = 0; column < rows.Columns(); ++column) {
+    if (column > 0) bytes += '\t';
+    bytes += rows.Cell(row, column);
   }
+  bytes += "\r\n";
 }
 
 }  // namespace vexa

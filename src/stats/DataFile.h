@@ -41,8 +41,7 @@ class DataFileReader {
   std::size_t field = 0;
 };
 
-/// Appends rows `from` to `to` - 1 to `bytes` as a data file has them: the texts separated by tabs,
-/// "\r\n" behind each row.
-void WriteRows(const PackedRows& rows, std::size_t from, std::size_t to, std::string& bytes);
+/// Appends row `row` to `bytes` as a data file has it: the texts separated by tabs, "\r\n" behind.
+void AppendRow(const PackedRows& rows, std::size_t row, std::string& bytes);
 
 }  // namespace vexa

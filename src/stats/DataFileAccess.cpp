@@ -10,8 +10,8 @@
 namespace vexa {
 namespace {
 
+/// Bytes between two reports.
 constexpr qint64 kPieceSize = qint64{1} << 18;
-constexpr std::size_t kRowsAtOnce = std::size_t{1} << 14;
 
 double Share(double part, double whole) {
   return whole > 0 ? part / whole : 1.0;
@@ -52,23 +52,24 @@ FileOutcome LoadDataFile(const QString& path, std::size_t columns, const Progres
 }
 
 FileOutcome SaveDataFile(const QString& path, const PackedRows& rows,
-                         const ProgressWatcher& watcher) {
+                         const ProgressWatcher& watcher) try {
   const QFileInfo target(path);
   if (target.exists() && !target.isFile()) return FileOutcome::Failed;
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) return FileOutcome::Failed;
   std::string bytes;
-  for (std::size_t row = 0; row < rows.Count(); row += kRowsAtOnce) {
-    const std::size_t end = std::min(row + kRowsAtOnce, rows.Count());
+  for (std::size_t row = 0; row < rows.Count();) {
     bytes.clear();
-    WriteRows(rows, row, end, bytes);
+    while (row < rows.Count() && std::ssize(bytes) < kPieceSize) AppendRow(rows, row++, bytes);
     const auto size = static_cast<qint64>(bytes.size());
     if (file.write(bytes.data(), size) != size) return FileOutcome::Failed;
-    const double share = Share(static_cast<double>(end), static_cast<double>(rows.Count()));
+    const double share = Share(static_cast<double>(row), static_cast<double>(rows.Count()));
     // What was written goes with the object; the file that was there stays.
     if (!watcher(share)) return FileOutcome::Stopped;
   }
   return file.commit() ? FileOutcome::Done : FileOutcome::Failed;
+} catch (const std::bad_alloc&) {
+  return FileOutcome::Failed;
 }
 
 }  // namespace vexa

@@ -1,5 +1,6 @@
 #include "stats/DataList.h"
 
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -94,7 +95,7 @@ void DataList::Clear() {
   controls = ListControls();
 }
 
-bool DataList::Sort(std::size_t column, const ProgressWatcher& watcher) {
+bool DataList::Sort(std::size_t column, const ProgressWatcher& watcher) try {
   std::vector<double> values(RowCount());
   for (std::size_t row = 0; row < values.size(); ++row) {
     values[row] = Value(row, column);
@@ -112,6 +113,8 @@ bool DataList::Sort(std::size_t column, const ProgressWatcher& watcher) {
   nextDirection = nextDirection == SortDirection::Ascending ? SortDirection::Descending
                                                             : SortDirection::Ascending;
   return true;
+} catch (const std::bad_alloc&) {
+  return false;
 }
 
 void DataList::Load(DataSet data) {

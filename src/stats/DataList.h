@@ -83,7 +83,8 @@ class DataList {
   void Delete(std::size_t row);
   void Clear();
   /// Sorts by the numbers of `column`, ascending the first time, then the other way each time,
-  /// whatever the column. False: `watcher` stopped it.
+  /// whatever the column. False, and everything is as it was: `watcher` stopped it, or the memory
+  /// does not suffice.
   bool Sort(std::size_t column, const ProgressWatcher& watcher = Unwatched);
   /// Takes the place of all rows.
   void Load(DataSet data);

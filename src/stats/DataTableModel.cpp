@@ -27,6 +27,8 @@ int DataTableModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant DataTableModel::data(const QModelIndex& index, int role) const {
+  // A view may ask for rows that are gone, until it is told.
+  if (index.row() < 0 || static_cast<std::size_t>(index.row()) >= list.RowCount()) return {};
   switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:

@@ -4,6 +4,7 @@
 
 #include "display/FormatResult.h"
 #include "display/SettingsLayout.h"
+#include "engine/NumberText.h"
 #include "stats/ResultKeys.h"
 
 namespace vexa {
@@ -90,6 +91,10 @@ void Statistics::ChooseModel(RegressionModel model) {
 
 std::wstring Statistics::PreparePlot(GraphData& graph) {
   return PrepareRegressionPlot(list, regression, precision, lastError, graph);
+}
+
+std::wstring Statistics::RecallText(std::wstring_view variableText) {
+  return FloatingText(TextToDouble(variableText));
 }
 
 void Statistics::SetDisplay(DisplayType type, int decimals) {

@@ -60,8 +60,9 @@ class Statistics {
   }
   /// The last result as memory variables keep it.
   std::wstring MemoryVariableText() { return FloatingText(lastResult); }
-  /// What recalling a memory variable's value puts into an edit.
-  std::wstring RecallText(double value) { return FloatingText(value); }
+  /// What recalling the memory variable with this text puts into an edit: the number at the front
+  /// of the text, 0 where there is none.
+  std::wstring RecallText(std::wstring_view variableText);
 
   /// Changes and stores how numbers are shown, and shows the last result so.
   void SetDisplay(DisplayType type, int decimals);

@@ -189,12 +189,17 @@ void StatisticsScreen::Cancel() {
 
 void StatisticsScreen::EndEditing() {
   Refresh();
+  LeaveEdits();
+}
+
+void StatisticsScreen::LeaveEdits() {
+  // An edit that gets its focus back from a box would show the keyboard again.
   table->setFocus();
   HideKeyboard();
 }
 
 void StatisticsScreen::Delete() {
-  HideKeyboard();
+  LeaveEdits();
   const auto row = table->FirstSelectedRow();
   if (!row) return ShowErrorBox(this, std::wstring(DataList::kNothingSelected));
   AskYesNo(this, std::wstring(DataList::kDeleteQuestion), [this, row] { DeleteRow(*row); });
@@ -208,7 +213,7 @@ void StatisticsScreen::DeleteRow(std::size_t row) {
 }
 
 void StatisticsScreen::Clear() {
-  HideKeyboard();
+  LeaveEdits();
   AskYesNo(this, std::wstring(DataList::kClearQuestion), [this] {
     statistics.Clear();
     table->Rows()->RowsReplaced();
@@ -218,9 +223,9 @@ void StatisticsScreen::Clear() {
 
 void StatisticsScreen::Sort(int column) {
   if (!statistics.List().Controls().list) return;
-  ProgressBox progress(this, QStringLiteral("Sorting..."));
-  const bool sorted = statistics.Sort(static_cast<std::size_t>(column),
-                                      [&](double share) { return progress.Report(share); });
+  const bool sorted = RunWithProgress(this, QStringLiteral("Sorting..."), [&](auto watcher) {
+    return statistics.Sort(static_cast<std::size_t>(column), watcher);
+  });
   if (sorted) table->Rows()->TextsChanged();
   Refresh();
 }
@@ -236,7 +241,7 @@ void StatisticsScreen::AskToSaveThen(std::function<void()> next) {
 }
 
 void StatisticsScreen::SaveThen(std::function<void()> next) {
-  HideKeyboard();
+  LeaveEdits();
   file_dialogs::AskForFileToSave(this, QString::fromLatin1(kFileFilter),
                                  [this, next = std::move(next)](const file_dialogs::Answer& path) {
                                    path ? SaveTo(*path, next) : next();
@@ -244,9 +249,9 @@ void StatisticsScreen::SaveThen(std::function<void()> next) {
 }
 
 void StatisticsScreen::SaveTo(const QString& path, std::function<void()> next) {
-  ProgressBox progress(this, QStringLiteral("Saving..."));
-  const FileOutcome outcome = SaveDataFile(path, statistics.List().Rows(),
-                                           [&](double share) { return progress.Report(share); });
+  const FileOutcome outcome = RunWithProgress(this, QStringLiteral("Saving..."), [&](auto watcher) {
+    return SaveDataFile(path, statistics.List().Rows(), watcher);
+  });
   if (outcome == FileOutcome::Done) statistics.Saved();
   if (outcome == FileOutcome::Failed) {
     return ShowErrorBox(this, std::wstring(file_dialogs::kFileError), std::move(next));
@@ -255,7 +260,7 @@ void StatisticsScreen::SaveTo(const QString& path, std::function<void()> next) {
 }
 
 void StatisticsScreen::Load() {
-  HideKeyboard();
+  LeaveEdits();
   AskToSaveThen([this] {
     file_dialogs::AskForFileToOpen(this, QString::fromLatin1(kFileFilter),
                                    [this](const file_dialogs::Answer& path) {
@@ -267,9 +272,9 @@ void StatisticsScreen::Load() {
 void StatisticsScreen::LoadFrom(const QString& path) {
   const std::size_t columns = statistics.List().Columns().size();
   DataSet loaded{PackedRows(columns)};
-  ProgressBox progress(this, QStringLiteral("Loading..."));
-  const FileOutcome outcome = LoadDataFile(
-      path, columns, [&](double share) { return progress.Report(share); }, loaded);
+  const FileOutcome outcome =
+      RunWithProgress(this, QStringLiteral("Loading..."),
+                      [&](auto watcher) { return LoadDataFile(path, columns, watcher, loaded); });
   if (outcome == FileOutcome::Failed) {
     return ShowErrorBox(this, std::wstring(file_dialogs::kFileError));
   }
@@ -304,7 +309,7 @@ void StatisticsScreen::OpenMemoryMenu() {
 void StatisticsScreen::RecallVariable() {
   auto* const dialog = new MemoryVariableDialog(store, this);
   connect(dialog, &MemoryVariableDialog::Recalled, this, [this](int index) {
-    form->ReplaceLastText(FromWide(statistics.RecallText(MemoryVariables(store).Value(index))));
+    form->ReplaceLastText(FromWide(statistics.RecallText(MemoryVariables(store).Text(index))));
   });
   OpenDialog(dialog);
 }

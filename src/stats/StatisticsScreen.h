@@ -61,6 +61,8 @@ class StatisticsScreen : public ModeScreen {
   void Ok();
   void Cancel();
   void EndEditing();
+  /// Takes the focus from the edits, and the on-screen keyboard away.
+  void LeaveEdits();
   void Delete();
   void DeleteRow(std::size_t row);
   void Clear();

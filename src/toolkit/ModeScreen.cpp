@@ -103,7 +103,8 @@ void ModeScreen::ShowAbout() {
 void ModeScreen::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && defaultButton) {
-    defaultButton->click();
+    // A key that is held down runs it once: rows would be added without end.
+    if (!event->isAutoRepeat()) defaultButton->click();
     return;
   }
   QWidget::keyPressEvent(event);

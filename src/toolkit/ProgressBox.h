@@ -37,4 +37,12 @@ class ProgressBox {
   bool cancelled = false;
 };
 
+/// Runs `operation`, which takes a watcher, while a ProgressBox shows how far it is, and returns
+/// its outcome. The box is gone by then.
+template <typename Operation>
+auto RunWithProgress(QWidget* owner, const QString& title, Operation operation) {
+  ProgressBox progress(owner, title);
+  return operation([&](double share) { return progress.Report(share); });
+}
+
 }  // namespace vexa

@@ -30,7 +30,8 @@ TEST_F(InlineMacrosTest, CallsBecomeFormulas) {
       {L"M:area(x,2)", L"((x)*(2)+exp((2)))"},
       {L"M:vol(1,x, x )", L"((1)*(x)*( x ))"},
       {L"M:sq((x))", L"(((x))^2)"},
-      {L"2M:sq(x)3", L"2((x)^2)3"},
+      {L"(M:sq(1))*x", L"(((1)^2))*x"},
+      {L"2*(M:sq(x))+1", L"2*(((x)^2))+1"},
   };
   for (const auto& [formula, text] : cases) {
     EXPECT_EQ(Inlined(formula), text);
@@ -43,9 +44,16 @@ TEST_F(InlineMacrosTest, CallsThatCannotBeReadAreRefused) {
       {L"M:", L"Expression error."},
       {L"M:sq", L"Expression error."},
       {L"M:sq(x", L"Expression error."},
+      {L"2M:sq(x)", L"Expression error."},
+      {L"xM:sq(x)", L"Expression error."},
+      {L"M:sq(x)3", L"Expression error."},
+      {L"M:sq(x)!", L"Expression error."},
       {L"M:Sq(x)", L"Macro Name error"},
       {L"M:(x)", L"Macro Name error"},
       {L"M:sq(x,1)", L"Macro argument error"},
+      {L"M:sq()", L"Macro argument error"},
+      {L"M:sq(x+)", L"Macro argument error"},
+      {L"M:sq(M:sq(x))", L"Macro argument error"},
       {L"M:area(x)", L"Macro argument error"},
       {L"M:vol(x,x)", L"Macro argument error"},
       {L"x+M:sq(x)+M:none(x)", L"Macro Name error"},
@@ -54,6 +62,29 @@ TEST_F(InlineMacrosTest, CallsThatCannotBeReadAreRefused) {
     Inlined(formula);
     EXPECT_EQ(error, sentence);
   }
+}
+
+TEST_F(InlineMacrosTest, OnlyTheFirstCallsLeftNeighbourIsTested) {
+  EXPECT_EQ(Inlined(L"M:sq(x)*2M:sq(x)"), L"((x)^2)*2((x)^2)");
+  EXPECT_EQ(error, L"");
+}
+
+TEST_F(InlineMacrosTest, AFormulaThatIsNoneIsRefused) {
+  macros.AddMacro(L"bad", L"TYPE1 : F(X)", L"x+)");
+  macros.AddMacro(L"constant", L"TYPE1 : F(X)", L"2");
+  for (const wchar_t* const formula : {L"M:bad(x)", L"M:constant(x)"}) {
+    Inlined(formula);
+    EXPECT_EQ(error, L"Macro formula is invalid");
+  }
+}
+
+TEST_F(InlineMacrosTest, NamesAreFoundWithoutTheirBlanks) {
+  macros.AddMacro(L"my f", L"TYPE1 : F(X)", L"x+1");
+  EXPECT_EQ(Inlined(L"M:myf(x)"), L"((x)+1)");
+  // The name itself wins.
+  macros.AddMacro(L"myf", L"TYPE1 : F(X)", L"x+2");
+  EXPECT_EQ(Inlined(L"M:myf(x)"), L"((x)+2)");
+  EXPECT_EQ(Inlined(L"M:my f(x)"), L"((x)+1)");
 }
 
 }  // namespace

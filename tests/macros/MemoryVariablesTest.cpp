@@ -52,6 +52,23 @@ TEST(MemoryVariables, GroupedTextIsReadWhole) {
   EXPECT_EQ(variables.Value(0), -1500000.25);
 }
 
+TEST(MemoryVariables, FormulasGetNumbersWithoutSeparators) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {{L"2.5", L"2.5"},
+                                                             {L"1.00000e+020", L"1.00000e+020"},
+                                                             {L"-1,500,000.25", L"-1500000.25"},
+                                                             {L"hello", L"0"},
+                                                             {L"", L"0"},
+                                                             {L"1,2", L"0"},
+                                                             {L"1 apple", L"0"},
+                                                             {L"1e999", L"0"}};
+  for (const auto& [stored, text] : cases) {
+    variables.Store(3, stored);
+    EXPECT_EQ(variables.FormulaText(3), text);
+  }
+}
+
 TEST(MemoryVariables, ClearAllWritesEverySlot) {
   MemorySettingsStore store;
   MemoryVariables variables(store);

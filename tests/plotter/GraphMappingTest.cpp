@@ -28,6 +28,8 @@ TEST(GraphMapping, AxesLieInsideTheRangesOnly) {
   EXPECT_EQ(AxisColumn({-10, 0, -1, 1}), 0);
   EXPECT_EQ(AxisRow({-1, 1, 0, 10}), 0);
   EXPECT_EQ(AxisRow({-1, 1, -10, 0}), 0);
+  // Truncation may put the horizontal axis on the frame.
+  EXPECT_EQ(AxisRow({-1, 1, -84.8, 1e-15}), 89);
   // A vertical axis on the left edge is one.
   EXPECT_EQ(AxisColumn({-DBL_MIN, 10, -1, 1}), 4);
   EXPECT_EQ(AxisColumn({-10, DBL_MIN, -1, 1}), 233);

@@ -342,11 +342,13 @@ void PlotterScreenTest::PlotShowsTheFunctionThatFails() {
 
 void PlotterScreenTest::MemoryGoesToTheBoxThatHadTheFocus() {
   Write(*store, settings::kMemoryVariable, 0, L"2.5");
-  const auto recall = [this] {
+  Write(*store, settings::kMemoryVariable, 1, L"1,234.5");
+  Write(*store, settings::kMemoryVariable, 2, L"no number");
+  const auto recall = [this](int row = 0) {
     PressKey("M");
     auto* const dialog = OpenWindow<MemoryVariableDialog>(screen.get());
     QVERIFY(dialog);
-    dialog->findChild<TouchList*>()->setCurrentRow(0);
+    dialog->findChild<TouchList*>()->setCurrentRow(row);
     Press(dialog, QStringLiteral("Recall"));
     QTRY_VERIFY(!OpenWindow<MemoryVariableDialog>(screen.get()));
   };
@@ -365,6 +367,12 @@ void PlotterScreenTest::MemoryGoesToTheBoxThatHadTheFocus() {
   PressKey("M");
   Press(OpenWindow<MemoryVariableDialog>(screen.get()), QStringLiteral("Cancel"));
   QCOMPARE(Box("X max")->text(), QStringLiteral("2.5"));
+
+  SetField(QString());
+  field->setFocus();
+  recall(1);
+  recall(2);
+  QCOMPARE(Field(), QStringLiteral("1234.50"));
 }
 
 void PlotterScreenTest::MacroWithoutMacrosOpensTheEditor() {

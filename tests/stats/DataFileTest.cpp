@@ -18,24 +18,18 @@ using test::RowsOf;
 constexpr std::size_t kOneVar = 2;
 constexpr std::size_t kTwoVar = 3;
 
-std::string Written(const PackedRows& rows) {
-  std::string bytes;
-  WriteRows(rows, 0, rows.Count(), bytes);
-  return bytes;
-}
-
-TEST(WriteRows, TabsBetweenTextsAndLineEndsBehindRows) {
+TEST(AppendRow, TabsBetweenTextsAndLineEndsBehindRows) {
   const DataSet data = test::DataOf(kOneVar, {{"2.5", "3"}, {"4", "1"}});
-  EXPECT_EQ(Written(data.rows), "2.5\t3\r\n4\t1\r\n");
+  EXPECT_EQ(test::BytesOf(data.rows), "2.5\t3\r\n4\t1\r\n");
   const DataSet pairs = test::DataOf(kTwoVar, {{"1.23457e+013", "-2", "1"}});
-  EXPECT_EQ(Written(pairs.rows), "1.23457e+013\t-2\t1\r\n");
-  EXPECT_EQ(Written(PackedRows(kOneVar)), "");
+  EXPECT_EQ(test::BytesOf(pairs.rows), "1.23457e+013\t-2\t1\r\n");
+  EXPECT_EQ(test::BytesOf(PackedRows(kOneVar)), "");
 }
 
-TEST(WriteRows, SomeOfTheRows) {
+TEST(AppendRow, OneOfTheRows) {
   const DataSet data = test::DataOf(kOneVar, {{"1", "1"}, {"2", "1"}, {"3", "1"}});
   std::string bytes = "0\t0\r\n";
-  WriteRows(data.rows, 1, 2, bytes);
+  AppendRow(data.rows, 1, bytes);
   EXPECT_EQ(bytes, "0\t0\r\n2\t1\r\n");
 }
 
@@ -51,7 +45,7 @@ TEST(DataFile, SaveThenLoadGivesTheSameRowsAndTotal) {
       rows.back().push_back(std::to_string(static_cast<int>(random() % 100) - 10));
     }
     const DataSet saved = test::DataOf(columns, rows);
-    const DataSet loaded = ReadBytes(columns, Written(saved.rows));
+    const DataSet loaded = ReadBytes(columns, test::BytesOf(saved.rows));
     EXPECT_EQ(RowsOf(loaded.rows), rows);
     EXPECT_EQ(loaded.total, saved.total);
     EXPECT_EQ(loaded.completeRows, rows.size());
@@ -130,7 +124,7 @@ TEST(DataFileReader, AnyBytesAreReadAndSaveTheSame) {
     const DataSet data = ReadBytes(kTwoVar, bytes);
     EXPECT_GE(data.rows.Count(), data.completeRows);
     EXPECT_LE(data.rows.Count(), std::max<std::size_t>(data.completeRows, 1));
-    const DataSet again = ReadBytes(kTwoVar, Written(data.rows));
+    const DataSet again = ReadBytes(kTwoVar, test::BytesOf(data.rows));
     if (data.completeRows > 0) {
       EXPECT_EQ(RowsOf(again.rows), RowsOf(data.rows));
     }

@@ -33,6 +33,12 @@ Rows RowsOf(const PackedRows& packed) {
   return rows;
 }
 
+std::string BytesOf(const PackedRows& rows) {
+  std::string bytes;
+  for (std::size_t row = 0; row < rows.Count(); ++row) AppendRow(rows, row, bytes);
+  return bytes;
+}
+
 DataSet ReadBytes(std::size_t columns, std::string_view bytes, std::size_t pieceSize) {
   DataFileReader reader(columns);
   while (!bytes.empty()) {

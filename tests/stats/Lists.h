@@ -23,6 +23,8 @@ inline Rows RowsOf(const DataList& list) {
   return RowsOf(list.Rows());
 }
 
+/// A file with these rows.
+std::string BytesOf(const PackedRows& rows);
 /// What a file with these bytes holds, fed in pieces of `pieceSize` bytes.
 DataSet ReadBytes(std::size_t columns, std::string_view bytes, std::size_t pieceSize = 4096);
 

@@ -111,6 +111,26 @@ TEST(RegressionPlot, RefusesCoefficientsThatCannotBeShown) {
   EXPECT_EQ(prepared.lastError, L"Out of range(overflow or underflow)");
 }
 
+TEST(RegressionPlot, EqualValuesComeBeforeTheOverflowThatTheyCause) {
+  EXPECT_EQ(Prepare({{"1", "-1", "1"}, {"1", "-2", "1"}}, RegressionModel::Power).message,
+            L"The maximum value of X should be bigger than the minimum value of X.");
+  EXPECT_EQ(Prepare({{"1", "-1", "1"}, {"2", "-1", "1"}}, RegressionModel::Power).message,
+            L"The maximum value of Y should be bigger than the minimum value of Y.");
+}
+
+TEST(RegressionPlot, CoefficientsWithExponentsCanBeDrawn) {
+  const Prepared prepared = Prepare({{"1", "1e13", "1"}, {"3", "3e14", "1"}});
+  EXPECT_EQ(prepared.message, L"");
+  ASSERT_EQ(prepared.graph.functions.size(), 1u);
+  EXPECT_EQ(prepared.graph.functions[0].label, L"R:F1(X)=1.45000e+014*X+-1.35000e+014");
+  EXPECT_EQ(prepared.graph.functions[0].tokens[0].value, 1.45e14);
+}
+
+TEST(RegressionPlot, AnExtentBeyondAllNumbersIsHandedOn) {
+  const Prepared prepared = Prepare({{"-1e308", "1", "1"}, {"1e308", "2", "0"}, {"0", "3", "1"}});
+  EXPECT_EQ(prepared.message, L"Out of range(overflow or underflow)");
+}
+
 TEST(RegressionPlot, ReportsAnErrorOfTheEngineWithTheCurve) {
   const Prepared prepared =
       Prepare({{"1", "2", "1"}, {"3", "6", "1"}}, static_cast<RegressionModel>(7));

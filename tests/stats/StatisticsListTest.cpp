@@ -107,9 +107,7 @@ void StatisticsListTest::SaysWhatIsWrongAndGoesThere_data() {
   QTest::newRow("words") << QStringList{"1", "abc", "1"} << number << "Y";
   QTest::newRow("infinite") << QStringList{"1e999", "1", "1"} << number << "X";
   QTest::newRow("a count with decimals") << QStringList{"1", "1", "1.5"} << integer << "Cnt";
-  QTest::newRow("a large count") << QStringList{"1", "1", "2147483648"}
-                                 << "Please enter an integer between -2147483648 and 2147483647."
-                                 << "Cnt";
+  QTest::newRow("a large count") << QStringList{"1", "1", "2147483648"} << integer << "Cnt";
 }
 
 void StatisticsListTest::SaysWhatIsWrongAndGoesThere() {

@@ -58,9 +58,7 @@ TEST_F(StatisticsTest, SaysWhatIsWrongWithAnEdit) {
       {{L"1", L"1e999", L"x"}, L"Please enter a number.", 1},
       {{L"1", L"2", L"1.5"}, L"Please enter an integer.", 2},
       {{L"1", L"2", L""}, L"Please enter an integer.", 2},
-      {{L"1", L"2", L"2147483648"},
-       L"Please enter an integer between -2147483648 and 2147483647.",
-       2},
+      {{L"1", L"2", L"2147483648"}, L"Please enter an integer.", 2},
   };
   for (const auto& c : cases) {
     const EntryFault fault = statistics.Add(c.texts);
@@ -192,7 +190,20 @@ TEST_F(StatisticsTest, MemoryTextsHaveNoThousandsSeparators) {
   Add({L"0", L"2", L"1"});
   EXPECT_EQ(Result(L"ΣX"), L"1,234.5");
   EXPECT_EQ(statistics.MemoryVariableText(), L"1234.5");
-  EXPECT_EQ(statistics.RecallText(-98765.25), L"-98765.25");
+}
+
+TEST_F(StatisticsTest, RecallsTheNumberAtTheFrontOfAVariablesText) {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {{L"-98765.25", L"-98765.25"},
+                                                             {L"", L"0"},
+                                                             {L"abc", L"0"},
+                                                             {L"1,234.5", L"1"},
+                                                             {L" 12 apples", L"12"}};
+  for (const auto& [stored, recalled] : cases) {
+    EXPECT_EQ(statistics.RecallText(stored), recalled);
+    EXPECT_EQ(statistics.lastError, L"");
+  }
+  EXPECT_EQ(statistics.RecallText(L"1e999"), L"Out of range(overflow or underflow)");
+  EXPECT_EQ(statistics.lastError, L"Out of range(overflow or underflow)");
 }
 
 TEST_F(StatisticsTest, ChangedDisplayShowsTheLastResultSoAndIsStored) {

@@ -58,9 +58,7 @@ TEST(StatisticsVectors, DataFiles) {
       EXPECT_EQ(RowsOf(data.rows), RowsIn(testCase["rows"]));
       EXPECT_EQ(data.total, testCase["total"].toInt());
       EXPECT_EQ(data.completeRows, static_cast<std::size_t>(testCase["complete"].toInt()));
-      std::string saved;
-      WriteRows(data.rows, 0, data.rows.Count(), saved);
-      EXPECT_EQ(saved, Bytes(testCase["saved"]));
+      EXPECT_EQ(test::BytesOf(data.rows), Bytes(testCase["saved"]));
     }
   }
 }
