@@ -1,9 +1,12 @@
 // The data list on both screens: adding, editing, deleting, clearing, sorting, by mouse and keys.
 
 #include <QHeaderView>
+#include <QSignalSpy>
 #include <QTest>
 
 #include "stats/StatisticsScreenDriver.h"
+#include "toolkit/FileDialogs.h"
+#include "toolkit/KeyboardOnFocus.h"
 
 namespace vexa {
 
@@ -20,6 +23,7 @@ class StatisticsListTest : public QObject {
   void OpensEmpty();
   void AddsTheNewestFirst();
   void EnterAdds();
+  void AHeldEnterAddsOnce();
   void TwoVariables();
   void KeysAfterEachRow();
   void SaysWhatIsWrongAndGoesThere_data();
@@ -36,6 +40,8 @@ class StatisticsListTest : public QObject {
   void NothingSelectedIsSaid();
   void DeletingDisablesKeys();
   void ClearAsks();
+  void ListCommandsTakeTheKeyboardAway_data();
+  void ListCommandsTakeTheKeyboardAway();
   void HeadingsSort();
   void SortingByMenu();
   void SelectionStaysInPlaceWhenSorting();
@@ -79,6 +85,16 @@ void StatisticsListTest::EnterAdds() {
   QTest::keyClicks(one->Edit("X"), QStringLiteral("1e-20"));
   QTest::keyClick(one->Edit("X"), Qt::Key_Enter);
   QCOMPARE(one->Rows(), (QStringList{"1.00000e-020 2", "2.5 2"}));
+}
+
+void StatisticsListTest::AHeldEnterAddsOnce() {
+  one->Type({"2.5", "2"});
+  QTest::keyPress(one->Edit("Count"), Qt::Key_Return);
+  for (int n = 0; n < 3; ++n) {
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(one->Edit("X"), &repeated);
+  }
+  QCOMPARE(one->Rows(), (QStringList{"2.5 2"}));
 }
 
 void StatisticsListTest::TwoVariables() {
@@ -284,6 +300,32 @@ void StatisticsListTest::ClearAsks() {
   QCOMPARE(one->Total(), QStringLiteral("0"));
   QCOMPARE(one->EnabledKeys(), (QStringList{"Add", "Load", "MEM"}));
   QCOMPARE(one->Result(), QStringLiteral("8"));
+}
+
+void StatisticsListTest::ListCommandsTakeTheKeyboardAway_data() {
+  QTest::addColumn<QString>("command");
+  QTest::addColumn<bool>("asksForFile");
+  QTest::newRow("Delete") << "Delete" << false;
+  QTest::newRow("Clear") << "Clear" << false;
+  QTest::newRow("Save") << "Save" << true;
+  QTest::newRow("Load") << "Load" << true;
+}
+
+void StatisticsListTest::ListCommandsTakeTheKeyboardAway() {
+  QFETCH(QString, command);
+  QFETCH(bool, asksForFile);
+  one->Add({"1", "1"});
+  one->SelectRows({0});
+  one->Activate();
+  one->Edit("X")->setFocus();
+  QSignalSpy asked(one->Edit("X")->findChild<KeyboardOnFocus*>(), &KeyboardOnFocus::Asked);
+  if (asksForFile) file_dialogs::AddNextAnswer(std::nullopt);
+  one->Press(command);
+  if (!asksForFile) one->Answer(QMessageBox::No);
+  one->Activate();
+  QCOMPARE(one->window->focusWidget(), one->Table());
+  QVERIFY(!asked.isEmpty());
+  QCOMPARE(asked.back().at(0).toBool(), false);
 }
 
 void StatisticsListTest::HeadingsSort() {
