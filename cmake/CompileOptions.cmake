@@ -1,9 +1,11 @@
 # What every target of the project is compiled with.
 add_library(vexa_options INTERFACE)
 
-# Results are exact to the last bit: no fused multiply-add, no reordering.
+# Results are exact to the last bit: no fused multiply-add, no reordering, and a power is the C
+# library's, not a product that the compiler puts in its place.
 target_compile_options(vexa_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -ffp-contract=off)
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -ffp-contract=off
+  -fno-builtin-pow)
 
 if(VEXA_SANITIZE)
   target_compile_options(vexa_options INTERFACE

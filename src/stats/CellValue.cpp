@@ -1,5 +1,7 @@
 #include "stats/CellValue.h"
 
+#include <charconv>
+
 #include "engine/NumberText.h"
 #include "engine/ToInt32.h"
 
@@ -22,6 +24,11 @@ double CellValue(std::wstring_view text) {
 }
 
 std::int32_t CellCount(std::string_view text) {
+  // Counts that this program writes are read at once.
+  std::int32_t count = 0;
+  const char* const end = text.data() + text.size();
+  const auto whole = std::from_chars(text.data(), end, count);
+  if (whole.ec == std::errc{} && whole.ptr == end) return count;
   return ToInt32(CellValue(text));
 }
 

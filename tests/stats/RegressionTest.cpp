@@ -65,6 +65,18 @@ TEST(Regression, Quadratic) {
   EXPECT_TRUE(std::isnan(regression.FirstRoot(-8.0))) << "the curve has no such value";
 }
 
+TEST(Regression, SquaresArePowersOfTheLibrary) {
+  const DataList list = ListOf({{"0", "0", "1"}, {"1", "1", "1"}, {"2", "4", "1"}});
+  Regression regression(list);
+  regression.ChooseModel(RegressionModel::Quadratic);
+  const auto [a, b, c] = regression.Fitted();
+  volatile double two = 2.0;
+  // The square of each of these differs from the product in its last bit.
+  for (const double x : {95.97, 141.73, 188.84, 192.06, 210.27, 294.31}) {
+    EXPECT_EQ(regression.PredictY(x), (b * x + a * std::pow(x, two)) + c) << x;
+  }
+}
+
 TEST(Regression, InverseIsTakenBackFromTheLogarithms) {
   const DataList list = ListOf({{"1", "2.718281828459045", "1"}, {"2", "7.389056098930650", "1"}});
   Regression regression(list);
