@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "toolkit/Theme.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
@@ -36,6 +37,8 @@ DataTableView::DataTableView(const DataList& shownList, QWidget* parent)
   setCornerButtonEnabled(false);
   setVerticalScrollMode(ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // The rows are read also while one is edited.
+  theme::KeepReadable(this);
 
   verticalHeader()->hide();
   // Rows of one height are laid out at once, however many there are.

@@ -95,6 +95,9 @@ void KeepReadable(QWidget* widget) {
                      Mixed(colours.color(QPalette::Active, role),
                            colours.color(QPalette::Active, QPalette::Window)));
   }
+  for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText}) {
+    colours.setColor(QPalette::Disabled, role, colours.color(QPalette::Active, role));
+  }
   widget->setPalette(colours);
 }
 

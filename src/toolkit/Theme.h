@@ -31,7 +31,7 @@ const KeyColours& ColoursOf(KeyRole role, const QPalette& palette);
 void ShowOnLightBlue(QLabel* label);
 
 /// Makes what `widget` shows while it is disabled as readable as text: for fields that show
-/// something before it can be changed.
+/// something before it can be changed. What is selected looks the same.
 void KeepReadable(QWidget* widget);
 
 /// Draws a field's text black on the amber of results, in light and dark alike.

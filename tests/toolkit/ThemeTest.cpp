@@ -115,6 +115,10 @@ void ThemeTest::WhatIsDisabledCanBeRead() {
         QVERIFY(disabled != field.palette().color(QPalette::Active, text));
       }
     }
+    for (const QPalette::ColorRole selected : {QPalette::Highlight, QPalette::HighlightedText}) {
+      QCOMPARE(field.palette().color(QPalette::Disabled, selected),
+               field.palette().color(QPalette::Active, selected));
+    }
   }
 }
 
