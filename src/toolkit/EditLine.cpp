@@ -15,6 +15,8 @@ namespace {
 /// The text grows with the line, of which it leaves at least two rows visible.
 constexpr int kRows = 3;
 constexpr int kSmallestText = 13;
+/// Leaves a row of the smallest text the room that it needs on the smallest display.
+constexpr qreal kTextMargin = 3;
 
 /// The keys that end a line in an ordinary edit box, with whatever modifiers.
 bool EndsLine(const QKeyEvent& event) {
@@ -38,6 +40,7 @@ EditLine::EditLine(QWidget* parent, std::size_t longest)
     : QPlainTextEdit(parent), longestText(longest) {
   setTabChangesFocus(true);
   setWordWrapMode(QTextOption::WrapAnywhere);
+  document()->setDocumentMargin(kTextMargin);
 }
 
 EditText EditLine::State() const {
