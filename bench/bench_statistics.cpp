@@ -129,7 +129,7 @@ void Scroll(benchmark::State& state) {
 
 DataList ListOf(std::span<const ListColumn> columns, const char* name) {
   DataSet data{PackedRows(columns.size())};
-  if (LoadDataFile(QString::fromLatin1(name), columns.size(), Unwatched, data) !=
+  if (LoadDataFile(QString::fromLatin1(name), columns.size(), kRows, Unwatched, data) !=
       FileOutcome::Done) {
     std::fprintf(stderr, "%s cannot be read\n", name);
     std::exit(EXIT_FAILURE);

@@ -55,16 +55,6 @@ std::wstring Substituted(std::wstring_view formula, const Arguments& arguments) 
   return text;
 }
 
-std::optional<int> FindMacro(const MacroTable& macros, std::wstring_view name) {
-  std::optional<int> index = macros.Find(name);
-  for (int i = 0; i < macros.Count() && !index; ++i) {
-    std::wstring known = macros.At(i).name;
-    std::erase(known, L' ');
-    if (known == name) index = i;
-  }
-  return index;
-}
-
 bool IsFormula(std::wstring_view text, FormulaType type) {
   ExprParser parser;
   parser.formulaType = type;
@@ -72,22 +62,59 @@ bool IsFormula(std::wstring_view text, FormulaType type) {
   return parser.errorText.empty();
 }
 
-/// What `call` stands for, or a sentence in `error`.
-std::wstring Inlined(const MacroCallText& call, const MacroTable& macros, std::wstring& error) {
-  const std::optional<int> index = FindMacro(macros, call.name);
-  if (!index) return error = kMacroNameError, L"";
-  const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
-  const Arguments arguments = Split(call.arguments);
-  const bool areFormulas = std::ranges::all_of(
-      arguments, [](std::wstring_view argument) { return IsFormula(argument, kAnyVariables); });
-  if (call.commas != static_cast<std::size_t>(type) || arguments.size() != call.commas + 1 ||
-      !areFormulas) {
-    return error = kMacroArgumentError, L"";
+/// Puts formulas in the places of calls. Each macro is looked at once, however often it is called.
+class CallInliner {
+ public:
+  explicit CallInliner(const MacroTable& table) : macros(table) {
+    for (int i = 0; i < macros.Count(); ++i) {
+      known.push_back({macros.At(i).name});
+      std::erase(known.back().nameWithoutBlanks, L' ');
+    }
   }
-  const std::wstring formula = macros.ReadFormula(*index);
-  if (!IsFormula(formula, type)) return error = kMacroFormulaError, L"";
-  return InParentheses(Substituted(formula, arguments));
-}
+
+  /// What `call` stands for, or a sentence in `error`.
+  std::wstring Inlined(const MacroCallText& call, std::wstring& error) {
+    const std::optional<int> index = Find(call.name);
+    if (!index) return error = kMacroNameError, L"";
+    const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
+    const Arguments arguments = Split(call.arguments);
+    const bool areFormulas = std::ranges::all_of(
+        arguments, [](std::wstring_view argument) { return IsFormula(argument, kAnyVariables); });
+    if (call.commas != static_cast<std::size_t>(type) || arguments.size() != call.commas + 1 ||
+        !areFormulas) {
+      return error = kMacroArgumentError, L"";
+    }
+    const std::wstring& formula = FormulaOf(*index, type);
+    if (formula.empty()) return error = kMacroFormulaError, L"";
+    return InParentheses(Substituted(formula, arguments));
+  }
+
+ private:
+  struct KnownMacro {
+    std::wstring nameWithoutBlanks;
+    /// None before it was needed; empty: it is no formula.
+    std::optional<std::wstring> formula{};
+  };
+
+  std::optional<int> Find(std::wstring_view name) const {
+    if (const std::optional<int> index = macros.Find(name)) return index;
+    const auto found = std::ranges::find(known, name, &KnownMacro::nameWithoutBlanks);
+    if (found == known.end()) return std::nullopt;
+    return static_cast<int>(found - known.begin());
+  }
+
+  const std::wstring& FormulaOf(int index, FormulaType type) {
+    std::optional<std::wstring>& formula = known[static_cast<std::size_t>(index)].formula;
+    if (!formula) {
+      formula = macros.ReadFormula(index);
+      if (!IsFormula(*formula, type)) formula->clear();
+    }
+    return *formula;
+  }
+
+  const MacroTable& macros;
+  std::vector<KnownMacro> known;
+};
 
 }  // namespace
 
@@ -100,12 +127,14 @@ std::wstring InlineMacros(std::wstring_view formula, const MacroTable& macros,
   if (mark != std::wstring_view::npos && !MayPrecedeCall(formula.substr(0, mark))) {
     return error = kExpressionErrorText;
   }
-  while (mark != std::wstring_view::npos) {
+  CallInliner calls(macros);
+  // More calls than a formula has records are not worth the room that they take.
+  for (int n = 0; n <= kMaxTokens && mark != std::wstring_view::npos; ++n) {
     text += formula.substr(0, mark);
     formula.remove_prefix(mark + kMacroCallMark.size());
     const std::optional<MacroCallText> call = ReadMacroCall(formula);
     if (!call) return error = kExpressionErrorText;
-    text += Inlined(*call, macros, error);
+    text += calls.Inlined(*call, error);
     if (!error.empty()) return error;
     formula.remove_prefix(call->length);
     mark = formula.find(kMacroCallMark);

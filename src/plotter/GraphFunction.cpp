@@ -13,11 +13,17 @@ constexpr std::array<std::wstring_view, kMaxGraphFunctions> kLabels{L"R:F1(X)=",
                                                                     L"B:F3(X)="};
 
 constexpr ShorteningRule kRefusedText{.longest = 7, .kept = 5};
+/// Beyond what any window is wide enough for.
+constexpr ShorteningRule kListedText{.longest = 500, .kept = 497};
 
 }  // namespace
 
 std::wstring GraphLabel(std::size_t position, std::wstring_view text) {
   return std::wstring(kLabels[position]) + std::wstring(text);
+}
+
+std::wstring ListText(std::wstring_view text) {
+  return Shortened(text, kListedText);
 }
 
 std::wstring FunctionRefusal(std::wstring_view text, std::wstring_view engineSentence) {

@@ -11,6 +11,9 @@ namespace vexa {
 /// What a list of functions calls the function with this text at `position`, 0 to 2.
 std::wstring GraphLabel(std::size_t position, std::wstring_view text);
 
+/// As much of a function's text or label as a list has to show: a stored text may be of any length.
+std::wstring ListText(std::wstring_view text);
+
 /// The sentence that refuses a graph because of the function with this text: the text, shortened,
 /// and the engine's own sentence.
 std::wstring FunctionRefusal(std::wstring_view text, std::wstring_view engineSentence);

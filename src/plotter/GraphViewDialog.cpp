@@ -18,6 +18,7 @@
 #include "display/WideText.h"
 #include "plotter/ColourIcon.h"
 #include "plotter/GraphFile.h"
+#include "plotter/GraphFunction.h"
 #include "plotter/PlotView.h"
 #include "plotter/PlotterOptionsDialog.h"
 #include "toolkit/FileDialogs.h"
@@ -96,7 +97,7 @@ void GraphViewDialog::BuildLists() {
   readOutList->setObjectName(QStringLiteral("Values"));
   readOutList->setAccessibleName(QStringLiteral("Values"));
   for (std::size_t i = 0; i < graph.Functions().size(); ++i) {
-    functionList->addItem(FromWide(graph.Functions()[i].label));
+    functionList->addItem(FromWide(ListText(graph.Functions()[i].label)));
     functionList->setItemIcon(static_cast<int>(i), CurveIcon(i));
   }
   connect(functionList, &QComboBox::activated, this, &GraphViewDialog::SelectFunction);

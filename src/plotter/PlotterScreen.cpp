@@ -16,6 +16,7 @@
 #include "macros/MacroKey.h"
 #include "macros/MemoryVariableDialog.h"
 #include "plotter/ColourIcon.h"
+#include "plotter/GraphFunction.h"
 #include "plotter/GraphViewDialog.h"
 #include "plotter/PlotterKeypad.h"
 #include "plotter/RangeForm.h"
@@ -129,7 +130,7 @@ void PlotterScreen::Refresh() {
   const QSignalBlocker blocker(list);
   list->clear();
   for (int i = 0; i < functions.Count(); ++i) {
-    list->addItem(FromWide(functions.At(i)));
+    list->addItem(FromWide(ListText(functions.At(i))));
     list->setItemIcon(i, CurveIcon(static_cast<std::size_t>(i)));
   }
   list->setCurrentIndex(functions.Selected());
@@ -139,10 +140,7 @@ void PlotterScreen::Refresh() {
 }
 
 bool PlotterScreen::Show(const PlotterOutcome& outcome) {
-  if (outcome.fieldText) {
-    const std::wstring& text = *outcome.fieldText;
-    Line()->ApplyChange({0, Line()->Text().size(), text, text.size()});
-  }
+  if (outcome.fieldText) Line()->ReplaceText(*outcome.fieldText);
   Refresh();
   Line()->setFocus();
   if (outcome.sentence.empty()) return true;
@@ -166,7 +164,8 @@ void PlotterScreen::Delete() {
 
 void PlotterScreen::SelectFunction(int index) {
   functions.Select(index);
-  Show({.fieldText = functions.At(index)});
+  // The focus stays with the list, whose keys may choose again.
+  Line()->ReplaceText(functions.At(index));
 }
 
 void PlotterScreen::Plot() {

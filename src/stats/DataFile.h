@@ -25,6 +25,8 @@ class DataFileReader {
 
   /// Takes the next bytes of the file.
   void Feed(std::string_view bytes);
+  /// Complete rows that have been read.
+  std::size_t RowCount() const { return data.completeRows; }
   /// What the file holds. A text that the end of the file cuts off is dropped, a row that misses
   /// some text too, unless it is the first one. The reader is ready for another file.
   DataSet Finish();

@@ -17,7 +17,8 @@ double Share(double part, double whole) {
   return whole > 0 ? part / whole : 1.0;
 }
 
-FileOutcome ReadFile(QFile& file, DataFileReader& reader, const ProgressWatcher& watcher) {
+FileOutcome ReadFile(QFile& file, std::size_t mostRows, DataFileReader& reader,
+                     const ProgressWatcher& watcher) {
   const qint64 length = file.size();
   std::vector<char> piece(static_cast<std::size_t>(std::min(kPieceSize, length)));
   for (qint64 done = 0; done < length;) {
@@ -27,6 +28,7 @@ FileOutcome ReadFile(QFile& file, DataFileReader& reader, const ProgressWatcher&
     // The file has become shorter: what there was is its content.
     if (size == 0) break;
     reader.Feed({piece.data(), static_cast<std::size_t>(size)});
+    if (reader.RowCount() > mostRows) return FileOutcome::Failed;
     done += size;
     const double share = Share(static_cast<double>(done), static_cast<double>(length));
     if (!watcher(share)) return FileOutcome::Stopped;
@@ -36,14 +38,14 @@ FileOutcome ReadFile(QFile& file, DataFileReader& reader, const ProgressWatcher&
 
 }  // namespace
 
-FileOutcome LoadDataFile(const QString& path, std::size_t columns, const ProgressWatcher& watcher,
-                         DataSet& data) try {
+FileOutcome LoadDataFile(const QString& path, std::size_t columns, std::size_t mostRows,
+                         const ProgressWatcher& watcher, DataSet& data) try {
   // Devices and pipes have no length, and may never end.
   if (!QFileInfo(path).isFile()) return FileOutcome::Failed;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return FileOutcome::Failed;
   DataFileReader reader(columns);
-  const FileOutcome outcome = ReadFile(file, reader, watcher);
+  const FileOutcome outcome = ReadFile(file, mostRows, reader, watcher);
   if (outcome == FileOutcome::Done) data = reader.Finish();
   return outcome;
 } catch (const std::bad_alloc&) {

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "toolkit/Theme.h"
-#include "toolkit/TouchSize.h"
 
 namespace vexa {
 namespace {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QTableView>
+#include <limits>
 #include <optional>
 
 #include "stats/DataList.h"
 #include "stats/DataTableModel.h"
+#include "toolkit/TouchSize.h"
 
 namespace vexa {
 
@@ -14,6 +16,9 @@ class DataTableView : public QTableView {
   Q_OBJECT
 
  public:
+  /// Rows that can be shown: the height of all of them is counted in pixels of 32 bits.
+  static constexpr std::size_t kMostRows = std::numeric_limits<int>::max() / kTouchHeight;
+
   /// `shownList` must outlive the view.
   DataTableView(const DataList& shownList, QWidget* parent);
 

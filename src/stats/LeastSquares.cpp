@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "stats/NormalEquations.h"
 #include "stats/SummaryStatistics.h"
 
 namespace vexa {
 namespace {
+
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 /// What the axes of a model's data are before the fit.
 struct Transformation {
@@ -20,10 +23,6 @@ constexpr Transformation kTransformations[] = {
     {RegressionModel::Logarithmic, true, false}, {RegressionModel::Exponential, false, true},
     {RegressionModel::Quadratic, false, false},
 };
-
-const Transformation& TransformationOf(RegressionModel model) {
-  return *std::ranges::find(kTransformations, model, &Transformation::model);
-}
 
 /// `base` to the power of a small whole number. The square, too, is the function's: in one of a
 /// thousand cases its last bit is not the product's.
@@ -86,7 +85,10 @@ double CorrelationOf(const DataList& list) {
 }
 
 Coefficients FitCurve(const DataList& list, RegressionModel model, std::size_t count) {
-  const auto c = Solve(EquationsOf(list, TransformationOf(model), count), count);
+  const auto transformation = std::ranges::find(kTransformations, model, &Transformation::model);
+  if (transformation == std::ranges::end(kTransformations))
+    return {kNoNumber, kNoNumber, kNoNumber};
+  const auto c = Solve(EquationsOf(list, *transformation, count), count);
   switch (model) {
     case RegressionModel::Inverse: {
       // Fitted as a power is, and unlike the others taken back this way; meant.

@@ -252,10 +252,10 @@ void StatisticsScreen::SaveTo(const QString& path, std::function<void()> next) {
   const FileOutcome outcome = RunWithProgress(this, QStringLiteral("Saving..."), [&](auto watcher) {
     return SaveDataFile(path, statistics.List().Rows(), watcher);
   });
-  if (outcome == FileOutcome::Done) statistics.Saved();
-  if (outcome == FileOutcome::Failed) {
-    return ShowErrorBox(this, std::wstring(file_dialogs::kFileError), std::move(next));
-  }
+  if (outcome == FileOutcome::Failed) ShowErrorBox(this, std::wstring(file_dialogs::kFileError));
+  // The rows are still to be saved: what was to come next could lose them.
+  if (outcome != FileOutcome::Done) return;
+  statistics.Saved();
   next();
 }
 
@@ -273,8 +273,9 @@ void StatisticsScreen::LoadFrom(const QString& path) {
   const std::size_t columns = statistics.List().Columns().size();
   DataSet loaded{PackedRows(columns)};
   const FileOutcome outcome =
-      RunWithProgress(this, QStringLiteral("Loading..."),
-                      [&](auto watcher) { return LoadDataFile(path, columns, watcher, loaded); });
+      RunWithProgress(this, QStringLiteral("Loading..."), [&](auto watcher) {
+        return LoadDataFile(path, columns, DataTableView::kMostRows, watcher, loaded);
+      });
   if (outcome == FileOutcome::Failed) {
     return ShowErrorBox(this, std::wstring(file_dialogs::kFileError));
   }

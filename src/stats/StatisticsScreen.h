@@ -79,9 +79,11 @@ class StatisticsScreen : public ModeScreen {
   void Configure();
   void RunEditCommand(EditCommand command);
 
-  /// Asks whether to save what would be lost, saves it, and runs `next` either way.
+  /// Asks whether to save what would be lost, saves it, and runs `next` either way, unless the
+  /// saving fails.
   void AskToSaveThen(std::function<void()> next);
-  /// Asks for a file and saves; runs `next` whatever comes of it.
+  /// Asks for a file, saves, and runs `next`: also when no file is chosen, not when the saving
+  /// fails or is stopped.
   void SaveThen(std::function<void()> next);
   void SaveTo(const QString& path, std::function<void()> next);
 

@@ -56,6 +56,15 @@ std::size_t EditLine::RoomFor(int start, int end) const {
 }
 
 void EditLine::ApplyChange(const TextChange& change) {
+  Change(change);
+  setFocus();
+}
+
+void EditLine::ReplaceText(const std::wstring& text) {
+  Change({0, Text().size(), text, text.size()});
+}
+
+void EditLine::Change(const TextChange& change) {
   const std::wstring text = Text();
   const int start = DocumentPosition(text, change.start);
   const int end = DocumentPosition(text, change.end);
@@ -73,7 +82,6 @@ void EditLine::ApplyChange(const TextChange& change) {
   cursor.setPosition(DocumentPosition(changed, std::min(change.caret, changed.size())));
   setTextCursor(cursor);
   ensureCursorVisible();
-  setFocus();
 }
 
 void EditLine::SelectWholeText() {

@@ -25,6 +25,8 @@ class EditLine : public QPlainTextEdit {
   EditText State() const;
   /// Applies a rule's change as one step of undo, shows the caret and takes the focus.
   void ApplyChange(const TextChange& change);
+  /// Puts `text` in the place of all there is, as one step of undo. The focus stays where it is.
+  void ReplaceText(const std::wstring& text);
   /// Selects the whole text, shows the caret and takes the focus.
   void SelectWholeText();
 
@@ -40,6 +42,7 @@ class EditLine : public QPlainTextEdit {
 
   /// Characters that may replace those from `start` to `end`, in units of the document.
   std::size_t RoomFor(int start, int end) const;
+  void Change(const TextChange& change);
 
   std::size_t longestText;
   int largestText = kLargestText;

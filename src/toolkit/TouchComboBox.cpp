@@ -28,7 +28,10 @@ void TouchComboBox::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space && list->IsSearching()) {
     list->setCurrentIndex(model()->index(currentIndex(), modelColumn()));
     list->keyboardSearch(event->text());
-    setCurrentIndex(list->currentIndex().row());
+    const int found = list->currentIndex().row();
+    if (found == currentIndex()) return;
+    setCurrentIndex(found);
+    emit activated(found);
     return;
   }
   QComboBox::keyPressEvent(event);

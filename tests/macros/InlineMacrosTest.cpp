@@ -78,6 +78,18 @@ TEST_F(InlineMacrosTest, AFormulaThatIsNoneIsRefused) {
   }
 }
 
+TEST_F(InlineMacrosTest, ManyCallsOfALongFormulaEndSoon) {
+  // Nobody can type this; a foreign store can hold it.
+  macros.AddMacro(L"long", L"TYPE1 : F(X)", L"x" + std::wstring(100000, L' '));
+  std::wstring formula = L"x";
+  for (int n = 0; n < 10000; ++n) formula += L"+M:long(x)";
+  const std::wstring text = Inlined(formula);
+  EXPECT_EQ(error, L"");
+  // What stands behind the calls that fill an engine's records is left as it is.
+  EXPECT_TRUE(text.ends_with(L"+M:long(x)"));
+  EXPECT_LT(text.size(), 16'000'000u);
+}
+
 TEST_F(InlineMacrosTest, NamesAreFoundWithoutTheirBlanks) {
   macros.AddMacro(L"my f", L"TYPE1 : F(X)", L"x+1");
   EXPECT_EQ(Inlined(L"M:myf(x)"), L"((x)+1)");

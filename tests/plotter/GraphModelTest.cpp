@@ -94,6 +94,8 @@ TEST(GraphModel, UndoAfterResetDoesNothing) {
   GraphModel graph = Opened(Graph({L"x"}));
   EXPECT_EQ(graph.Undo(), L"");
   EXPECT_EQ(graph.Ranges(), kHome);
+  // Twice, so that the ranges before the last command are not the home ranges.
+  graph.ZoomIn();
   graph.ZoomIn();
   graph.Reset();
   EXPECT_EQ(graph.Undo(), L"");
@@ -381,6 +383,7 @@ TEST(GraphModel, OptionsTakeRangesAndFlags) {
   GraphModel graph = Opened(Graph({L"x"}));
   graph.ApplyOptions({1, 2, 3, 4}, {.grid = false, .line = false, .coordinates = false});
   EXPECT_EQ(graph.Ranges(), (PlotRanges{1, 2, 3, 4}));
+  EXPECT_TRUE(graph.Samples().curves[0][0].IsEmpty()) << "sampled anew: 1 lies below the area";
   EXPECT_EQ(graph.Options(), (PlotOptions{false, false, false}));
   EXPECT_TRUE(graph.Labels().empty());
   EXPECT_FALSE(graph.IsAtHome());

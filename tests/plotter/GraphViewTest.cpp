@@ -41,6 +41,7 @@ class GraphViewTest : public QObject {
   void KeysChangeTheRanges();
   void ListsAndBoxesKeepTheirKeys();
   void TheWheelZooms();
+  void EveryChangeIsDrawn();
   void ATapTraces();
   void ATapWithoutTraceReadsThePoint();
   void ADragShowsABoxAndZooms();
@@ -50,6 +51,7 @@ class GraphViewTest : public QObject {
   void EnterRunsCal();
   void TheListsAreLinkedWhileTraceIsOn();
   void OpeningAListRemovesTheBox();
+  void OpeningADialogRemovesTheBox();
   void RefusalsAreShown();
   void OptionsChangeTheGraph();
   void OptionsRefuseEqualBounds();
@@ -228,6 +230,36 @@ void GraphViewTest::TheWheelZooms() {
   QCOMPARE(Graph().Ranges().xMax, 6.0 * 0.6 * 0.6);
 }
 
+void GraphViewTest::EveryChangeIsDrawn() {
+  QImage shown = Plot()->grab().toImage();
+  const auto differs = [&] {
+    const QImage before = std::exchange(shown, Plot()->grab().toImage());
+    return shown != before;
+  };
+  for (const GraphCommand& command : kGraphCommands) {
+    Choose(view, QStringLiteral("Graph"), FromWide(command.caption));
+    QVERIFY2(differs(), qPrintable(FromWide(command.caption)));
+  }
+  Wheel(120);
+  QVERIFY(differs());
+  Drag(At(60, 110), At(160, 210));
+  QVERIFY(differs());
+  for (const char* const option : {"Grid", "Line", "Coordinates"}) {
+    Command("Graph Options");
+    auto* const options = OpenWindow<PlotterOptionsDialog>(view);
+    Press(options, QString::fromLatin1(option));
+    Press(options, QStringLiteral("OK"));
+    QVERIFY2(differs(), option);
+  }
+  Open(test::Graph({L"x"}));
+  shown = Plot()->grab().toImage();
+  Choose(view, QStringLiteral("File"), QStringLiteral("Config..."));
+  auto* const config = OpenWindow<DisplayFormattingDialog>(view);
+  Press(config, QStringLiteral("Scientific Notation"));
+  Press(config, QStringLiteral("OK"));
+  QVERIFY2(differs(), "the labels");
+}
+
 void GraphViewTest::ATapTraces() {
   QTest::mouseClick(Plot(), Qt::LeftButton, {}, At(165, 120));
   QCOMPARE(XBox()->text(), QStringLiteral("4"));
@@ -335,6 +367,20 @@ void GraphViewTest::OpeningAListRemovesTheBox() {
     list->hidePopup();
     QTest::mouseRelease(Plot(), Qt::LeftButton, {}, At(50, 100));
   }
+}
+
+void GraphViewTest::OpeningADialogRemovesTheBox() {
+  Drag(At(50, 100), At(150, 200), false);
+  QVERIFY(Graph().Drag().IsShown());
+  Command("Graph Options");
+  QVERIFY(!Graph().Drag().IsShown());
+  Press(OpenWindow<PlotterOptionsDialog>(view), QStringLiteral("Cancel"));
+  QTest::mouseRelease(Plot(), Qt::LeftButton, {}, At(50, 100));
+  Drag(At(50, 100), At(150, 200), false);
+  QVERIFY(Graph().Drag().IsShown());
+  file_dialogs::AddNextAnswer(std::nullopt);
+  Choose(view, QStringLiteral("File"), QStringLiteral("Save Graph..."));
+  QVERIFY(!Graph().Drag().IsShown());
 }
 
 void GraphViewTest::RefusalsAreShown() {

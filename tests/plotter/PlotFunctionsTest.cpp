@@ -330,6 +330,7 @@ TEST_F(PlotFunctionsTest, SaveAndReopen) {
   const PlotFunctions reopened = Opened();
   EXPECT_EQ(reopened.Count(), 2);
   EXPECT_EQ(reopened.StoredRanges()[1], L"1e3");
+  ASSERT_EQ(reopened.History().Count(), 3);
   EXPECT_EQ(reopened.History().At(2), L"y");
 }
 

@@ -41,6 +41,7 @@ class PlotterScreenTest : public QObject {
   void ThreeFunctionsDisableAdd();
   void DeleteAsksFirst();
   void ChoosingAFunctionPutsItIntoTheField();
+  void ListsShowTheFrontOfALongFunction();
   void PbListsTheNewestFirst();
   void PlotOpensTheGraph();
   void EnterPlots();
@@ -249,14 +250,33 @@ void PlotterScreenTest::DeleteAsksFirst() {
 }
 
 void PlotterScreenTest::ChoosingAFunctionPutsItIntoTheField() {
-  for (const char* text : {"x", "x+1"}) {
+  for (const char* text : {"x", "sin(x)", "sqrt(x)"}) {
     SetField(QString::fromLatin1(text));
     PressKey("A");
   }
   List()->setFocus();
   QTest::keyClick(List(), Qt::Key_Up);
+  QCOMPARE(Field(), QStringLiteral("sin(x)"));
+  QTest::keyClick(List(), Qt::Key_Up);
   QCOMPARE(Field(), QStringLiteral("x"));
-  QVERIFY(field->hasFocus());
+  QVERIFY2(List()->hasFocus(), "its keys choose on");
+  QTest::keyClicks(List(), QStringLiteral("sqrt"));
+  QCOMPARE(Field(), QStringLiteral("sqrt(x)"));
+  QCOMPARE(List()->currentText(), QStringLiteral("sqrt(x)"));
+}
+
+void PlotterScreenTest::ListsShowTheFrontOfALongFunction() {
+  const QString text = QStringLiteral("x") + QStringLiteral("+x").repeated(400);
+  screen.reset();
+  Write(*store, settings::kFunctionCount, 2);
+  Write(*store, settings::kFunction, 0, text.toStdWString());
+  Write(*store, settings::kFunction, 1, L"x");
+  Open();
+  QCOMPARE(List()->itemText(0), text.left(497) + QStringLiteral("..."));
+  List()->setFocus();
+  QTest::keyClick(List(), Qt::Key_Down);
+  QTest::keyClick(List(), Qt::Key_Up);
+  QCOMPARE(Field(), text);
 }
 
 void PlotterScreenTest::PbListsTheNewestFirst() {

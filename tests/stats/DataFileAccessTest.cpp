@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <limits>
 
 #include "stats/Lists.h"
 
@@ -32,6 +33,7 @@ class DataFileAccessTest : public QObject {
   void AFileThatGrowsWhileItIsRead();
   void ALongText();
   void MillionsOfNulBytes();
+  void RefusesMoreRowsThanCanBeShown();
 
  private:
   QString Path(const char* name) const { return dir->filePath(QString::fromLatin1(name)); }
@@ -50,11 +52,15 @@ class DataFileAccessTest : public QObject {
   DataSet data{PackedRows(2)};
 };
 
+namespace {
+constexpr std::size_t kAnyRows = std::numeric_limits<std::size_t>::max();
+}  // namespace
+
 void DataFileAccessTest::WritesAndReads() {
   const test::Rows rows{{"2.5", "3"}, {"4", "1"}};
   QCOMPARE(SaveDataFile(Path("a.txt"), test::DataOf(2, rows).rows, Unwatched), FileOutcome::Done);
   QCOMPARE(Bytes(Path("a.txt")), QByteArray("2.5\t3\r\n4\t1\r\n"));
-  QCOMPARE(LoadDataFile(Path("a.txt"), 2, Unwatched, data), FileOutcome::Done);
+  QCOMPARE(LoadDataFile(Path("a.txt"), 2, kAnyRows, Unwatched, data), FileOutcome::Done);
   QCOMPARE(test::RowsOf(data.rows), rows);
   QCOMPARE(data.total, 4);
 }
@@ -79,7 +85,7 @@ void DataFileAccessTest::WritesThroughALink() {
 void DataFileAccessTest::StoppedWritingLeavesTheOldFile() {
   Put(Path("a.txt"), "old");
   Put(Path("many.txt"), ManyRows());
-  QCOMPARE(LoadDataFile(Path("many.txt"), 2, Unwatched, data), FileOutcome::Done);
+  QCOMPARE(LoadDataFile(Path("many.txt"), 2, kAnyRows, Unwatched, data), FileOutcome::Done);
   int reports = 0;
   QCOMPARE(SaveDataFile(Path("a.txt"), data.rows, [&](double) { return ++reports < 3; }),
            FileOutcome::Stopped);
@@ -92,7 +98,7 @@ void DataFileAccessTest::StoppedReadingGivesNothing() {
   Put(Path("many.txt"), ManyRows());
   data = test::DataOf(2, {{"7", "1"}});
   QCOMPARE(LoadDataFile(
-               Path("many.txt"), 2, [](double) { return false; }, data),
+               Path("many.txt"), 2, kAnyRows, [](double) { return false; }, data),
            FileOutcome::Stopped);
   QCOMPARE(test::RowsOf(data.rows), (test::Rows{{"7", "1"}}));
 }
@@ -107,7 +113,7 @@ void DataFileAccessTest::TellsHowFarItIs() {
   for (const bool writing : {false, true}) {
     shares.clear();
     const FileOutcome outcome = writing ? SaveDataFile(Path("a.txt"), data.rows, watch)
-                                        : LoadDataFile(Path("many.txt"), 2, watch, data);
+                                        : LoadDataFile(Path("many.txt"), 2, kAnyRows, watch, data);
     QCOMPARE(outcome, FileOutcome::Done);
     QVERIFY(shares.size() > 5);
     QVERIFY(std::is_sorted(shares.begin(), shares.end()));
@@ -133,7 +139,7 @@ void DataFileAccessTest::RefusesWhatIsNoFile() {
   }
   const bool existed = QFileInfo::exists(path);
   data = test::DataOf(2, {{"7", "1"}});
-  QCOMPARE(LoadDataFile(path, 2, Unwatched, data), FileOutcome::Failed);
+  QCOMPARE(LoadDataFile(path, 2, kAnyRows, Unwatched, data), FileOutcome::Failed);
   QCOMPARE(test::RowsOf(data.rows), (test::Rows{{"7", "1"}}));
   QCOMPARE(SaveDataFile(path, data.rows, Unwatched), FileOutcome::Failed);
   QCOMPARE(QFileInfo::exists(path), existed);
@@ -143,7 +149,7 @@ void DataFileAccessTest::RefusesWhatIsNoFile() {
 void DataFileAccessTest::AFileThatVanishesWhileItIsRead() {
   Put(Path("many.txt"), ManyRows());
   QCOMPARE(LoadDataFile(
-               Path("many.txt"), 2,
+               Path("many.txt"), 2, kAnyRows,
                [this](double) {
                  QFile::remove(Path("many.txt"));
                  return true;
@@ -156,7 +162,7 @@ void DataFileAccessTest::AFileThatVanishesWhileItIsRead() {
 void DataFileAccessTest::AFileThatGetsShorterWhileItIsRead() {
   Put(Path("many.txt"), ManyRows());
   QCOMPARE(LoadDataFile(
-               Path("many.txt"), 2,
+               Path("many.txt"), 2, kAnyRows,
                [this](double) {
                  QFile::resize(Path("many.txt"), 10);
                  return true;
@@ -169,7 +175,7 @@ void DataFileAccessTest::AFileThatGetsShorterWhileItIsRead() {
 void DataFileAccessTest::AFileThatGrowsWhileItIsRead() {
   Put(Path("many.txt"), ManyRows());
   QCOMPARE(LoadDataFile(
-               Path("many.txt"), 2,
+               Path("many.txt"), 2, kAnyRows,
                [this](double) {
                  QFile file(Path("many.txt"));
                  return file.open(QIODevice::Append) && file.write("9\t9\r\n") == 5;
@@ -182,7 +188,7 @@ void DataFileAccessTest::AFileThatGrowsWhileItIsRead() {
 void DataFileAccessTest::ALongText() {
   const QByteArray digits = QByteArray("7").repeated(20'000'000);
   Put(Path("long.txt"), digits + "\t" + digits + "\r\n");
-  QCOMPARE(LoadDataFile(Path("long.txt"), 2, Unwatched, data), FileOutcome::Done);
+  QCOMPARE(LoadDataFile(Path("long.txt"), 2, kAnyRows, Unwatched, data), FileOutcome::Done);
   QCOMPARE(data.rows.Count(), std::size_t{1});
   QCOMPARE(data.rows.Cell(0, 0).size(), std::size_t{20'000'000});
   QVERIFY(data.rows.Cell(0, 1).size() < 12);
@@ -190,8 +196,17 @@ void DataFileAccessTest::ALongText() {
 
 void DataFileAccessTest::MillionsOfNulBytes() {
   Put(Path("zeros.txt"), QByteArray("1\t2\r\n") + QByteArray(20'000'000, '\0') + "3\t4\r\n");
-  QCOMPARE(LoadDataFile(Path("zeros.txt"), 2, Unwatched, data), FileOutcome::Done);
+  QCOMPARE(LoadDataFile(Path("zeros.txt"), 2, kAnyRows, Unwatched, data), FileOutcome::Done);
   QCOMPARE(test::RowsOf(data.rows), (test::Rows{{"1", "2"}, {"3", "4"}}));
+}
+
+void DataFileAccessTest::RefusesMoreRowsThanCanBeShown() {
+  Put(Path("a.txt"), "1\t2\r\n3\t4\r\n5\t6\r\n");
+  data = DataSet{PackedRows(2)};
+  QCOMPARE(LoadDataFile(Path("a.txt"), 2, 2, Unwatched, data), FileOutcome::Failed);
+  QCOMPARE(data.rows.Count(), std::size_t{0});
+  QCOMPARE(LoadDataFile(Path("a.txt"), 2, 3, Unwatched, data), FileOutcome::Done);
+  QCOMPARE(data.rows.Count(), std::size_t{3});
 }
 
 }  // namespace vexa

@@ -67,6 +67,27 @@ TEST(DataList, ControlsAfterAdd) {
   EXPECT_FALSE(list.Controls().correlation) << "a third row switches nothing";
 }
 
+TEST(DataList, OnlyTheFirstAndTheSecondRowSwitchControlsWhenAdded) {
+  DataList list(kOneVarColumns);
+  // An incomplete row counts for nothing when it is loaded, and is a row when others are added.
+  DataSet incomplete{PackedRows(2)};
+  incomplete.rows.Append(std::vector<std::string>{"5", ""});
+  list.Load(std::move(incomplete));
+  list.Add(Values{L"6"}, 1);
+  EXPECT_TRUE(list.Controls().statistics);
+  EXPECT_FALSE(list.Controls().clear);
+  EXPECT_FALSE(list.Controls().save);
+}
+
+TEST(DataList, OnlyTheLastButOneRowSwitchesTheStatisticsWhenDeleted) {
+  DataList list = ListOf({{"1", "1"}, {"2", "1"}});
+  DataSet incomplete{PackedRows(2)};
+  incomplete.rows.Append(std::vector<std::string>{"5", ""});
+  list.Load(std::move(incomplete));
+  list.Delete(0);
+  EXPECT_TRUE(list.Controls().statistics);
+}
+
 TEST(DataList, SelectionEnablesEditAndDelete) {
   DataList list = OneVarList(2);
   list.SelectionChanged(true);

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
+#include "plotter/GraphModel.h"
 #include "stats/Lists.h"
 
 namespace vexa {
@@ -127,8 +130,13 @@ TEST(RegressionPlot, CoefficientsWithExponentsCanBeDrawn) {
 }
 
 TEST(RegressionPlot, AnExtentBeyondAllNumbersIsHandedOn) {
-  const Prepared prepared = Prepare({{"-1e308", "1", "1"}, {"1e308", "2", "0"}, {"0", "3", "1"}});
-  EXPECT_EQ(prepared.message, L"Out of range(overflow or underflow)");
+  const Prepared prepared = Prepare({{"-0.7", "-1e308", "1"}, {"0.7", "1e308", "1"}});
+  EXPECT_EQ(prepared.message, L"");
+  EXPECT_TRUE(std::isinf(prepared.graph.ranges.yMin));
+  EXPECT_TRUE(std::isinf(prepared.graph.ranges.yMax));
+  GraphModel graph(prepared.graph, DisplayType::Currency, 5);
+  for (const GraphCommand& command : kGraphCommands) (graph.*command.run)();
+  EXPECT_EQ(graph.Samples().axisRow, 0);
 }
 
 TEST(RegressionPlot, ReportsAnErrorOfTheEngineWithTheCurve) {

@@ -8,6 +8,7 @@
 #include <numbers>
 
 #include "display/FormatResult.h"
+#include "stats/LeastSquares.h"
 #include "stats/Lists.h"
 #include "stats/NormalEquations.h"
 
@@ -74,6 +75,25 @@ TEST(Regression, SquaresArePowersOfTheLibrary) {
   // The square of each of these differs from the product in its last bit.
   for (const double x : {95.97, 141.73, 188.84, 192.06, 210.27, 294.31}) {
     EXPECT_EQ(regression.PredictY(x), (b * x + a * std::pow(x, two)) + c) << x;
+  }
+}
+
+TEST(Regression, TheEquationsHoldPowersOfTheLibraryToo) {
+  const DataList list = ListOf({{"93.28", "89.2", "1"},
+                                {"93.41", "97.6", "1"},
+                                {"254.38", "15.7", "1"},
+                                {"297.51", "35.3", "1"}});
+  Regression regression(list);
+  regression.ChooseModel(RegressionModel::Quadratic);
+  // With products it were ...289.
+  EXPECT_NEAR(regression.Fitted().c, 247.309176308314, 1e-12);
+}
+
+TEST(Regression, AModelThatIsNotFittedSoHasNoNumbers) {
+  const DataList list = ListOf({{"1", "2", "1"}, {"2", "4", "1"}});
+  for (const int model : {0, 1, 7}) {
+    const auto [a, b, c] = FitCurve(list, static_cast<RegressionModel>(model), 2);
+    EXPECT_TRUE(std::isnan(a) && std::isnan(b) && std::isnan(c)) << model;
   }
 }
 

@@ -175,6 +175,7 @@ void StatisticsListTest::OkWritesTheRow() {
   one->Press("Ok");
   QCOMPARE(one->Rows(), (QStringList{"2 1", "10 1"}));
   QCOMPARE(one->Total(), QStringLiteral("2"));
+  QVERIFY2(one->Table()->hasFocus(), "the edits let the keyboard go");
   QVERIFY(one->IsShown("Add") && one->TotalIsShown());
   QVERIFY(!one->IsShown("Ok") && !one->IsShown("Cancel"));
   QVERIFY(one->Table()->isEnabled());
@@ -219,6 +220,7 @@ void StatisticsListTest::CancelAndEscapeLeaveTheRow() {
       one->Press("Cancel");
     }
     QCOMPARE(one->Rows(), (QStringList{"1 3"}));
+    QVERIFY(one->Table()->hasFocus());
     QVERIFY(one->IsShown("Add") && one->TotalIsShown() && one->Table()->isEnabled());
   }
   QCOMPARE(one->Total(), QStringLiteral("3"));

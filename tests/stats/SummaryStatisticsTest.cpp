@@ -67,11 +67,20 @@ TEST(SummaryStatistics, EmptyListDividesByZero) {
 }
 
 TEST(SummaryStatistics, RoundingBelowZeroIsNoNumber) {
-  const DataList list = ListOf({{"10000000.1", "3"}, {"10000000.1", "4"}});
+  const DataList list = ListOf({{"96904065.1", "5"}, {"96904065.1", "2"}});
   const ColumnSums sums = SumColumn(list, 0);
-  const double mean = sums.values / 7.0;
-  const double rest = sums.squares - (7.0 * mean) * mean;
-  EXPECT_EQ(std::isnan(SampleDeviation(list, 0)), rest < 0.0);
+  const double n = list.Total();
+  const double mean = sums.values / n;
+  ASSERT_LT(sums.squares - (n * mean) * mean, 0.0);
+  EXPECT_TRUE(std::isnan(SampleDeviation(list, 0)));
+  EXPECT_TRUE(std::isnan(PopulationDeviation(list, 0)));
+}
+
+TEST(SummaryStatistics, NIsTheTotalThatWraps) {
+  const DataList list = ListOf({{"1", "2147483647"}, {"1", "1"}});
+  ASSERT_EQ(list.Total(), std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(Mean(list, 0), -1.0);
+  EXPECT_TRUE(std::isnan(PopulationDeviation(list, 0)));
 }
 
 TEST(SummaryStatistics, TwoVariables) {

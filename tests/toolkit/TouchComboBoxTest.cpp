@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QListView>
+#include <QSignalSpy>
 #include <QStyleOptionComboBox>
 #include <QTest>
 #include <memory>
@@ -18,6 +19,7 @@ class TouchComboBoxTest : public QObject {
   void TypedCharactersAreSearchedTogether();
   void AfterAPauseTheSearchStartsAnew();
   void ABlankOpensTheListUnlessItIsSearched();
+  void AnEntryThatABlankFindsIsChosen();
   void LongEntriesEndInDots();
   void LongEntriesDoNotWidenIt();
 
@@ -54,6 +56,17 @@ void TouchComboBoxTest::ABlankOpensTheListUnlessItIsSearched() {
   QTest::keyClick(box.get(), Qt::Key_Space);
   QTRY_VERIFY(box->view()->isVisible());
   box->hidePopup();
+}
+
+void TouchComboBoxTest::AnEntryThatABlankFindsIsChosen() {
+  box->addItem(QStringLiteral("Lightyear"));
+  box->insertItem(0, QStringLiteral("Lightyear"));
+  box->setCurrentIndex(0);
+  QSignalSpy chosen(box.get(), &QComboBox::activated);
+  QTest::keyClicks(box.get(), QStringLiteral("light "));
+  QCOMPARE(box->currentText(), QStringLiteral("Light minutes"));
+  QVERIFY(!chosen.isEmpty());
+  QCOMPARE(chosen.back().at(0).toInt(), box->currentIndex());
 }
 
 void TouchComboBoxTest::LongEntriesEndInDots() {
