@@ -41,10 +41,10 @@ bool IsLetter(wchar_t c) {
 std::wstring Substituted(std::wstring_view formula, const Arguments& arguments) {
   std::wstring text;
   while (!formula.empty()) {
-    const std::size_t word = static_cast<std::size_t>(
+    const auto word = static_cast<std::size_t>(
         std::find_if_not(formula.begin(), formula.end(), IsLetter) - formula.begin());
     const std::size_t length = std::max<std::size_t>(word, 1);
-    const std::size_t variable = static_cast<std::size_t>(ToLowerAscii(formula[0]) - L'x');
+    const auto variable = static_cast<std::size_t>(ToLowerAscii(formula[0]) - L'x');
     if (word == 1 && variable < arguments.size()) {
       text += InParentheses(arguments[variable]);
     } else {

@@ -19,9 +19,9 @@ class GraphViewDialog : public Dialog {
   Q_OBJECT
 
  public:
-  /// Shows `graph`, functions or data points or both. Reads how numbers are written from
+  /// Shows `shown`, functions or data points or both. Reads how numbers are written from
   /// `settingsStore`, which must outlive the dialog.
-  GraphViewDialog(SettingsStore& settingsStore, GraphData graph, QWidget* parent);
+  GraphViewDialog(SettingsStore& settingsStore, GraphData shown, QWidget* parent);
 
   const GraphModel& Graph() const { return graph; }
 

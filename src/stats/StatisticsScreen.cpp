@@ -230,8 +230,8 @@ void StatisticsScreen::Sort(int column) {
   Refresh();
 }
 
-void StatisticsScreen::PrepareToLeave(std::function<void()> leave) {
-  AskToSaveThen(std::move(leave));
+void StatisticsScreen::PrepareToLeave(const std::function<void()>& leave) {
+  AskToSaveThen(leave);
 }
 
 void StatisticsScreen::AskToSaveThen(std::function<void()> next) {

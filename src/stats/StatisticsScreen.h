@@ -39,7 +39,7 @@ class StatisticsScreen : public ModeScreen {
   /// Runs the command of the key with this caption, or shows its result.
   virtual void RunKey(std::wstring_view caption);
 
-  void PrepareToLeave(std::function<void()> leave) override;
+  void PrepareToLeave(const std::function<void()>& leave) override;
   void keyPressEvent(QKeyEvent* event) override;
   /// Shows all result keys where there is room for them.
   void resizeEvent(QResizeEvent* event) override;

@@ -30,7 +30,7 @@ class ModeScreen : public QWidget {
   /// Another mode or the exit was chosen: runs `leave` once nothing stands against it. A screen
   /// with something to ask first asks, and runs it after the answer. The frame itself can go at any
   /// time, without this.
-  virtual void PrepareToLeave(std::function<void()> leave) { leave(); }
+  virtual void PrepareToLeave(const std::function<void()>& leave) { leave(); }
 
   /// Enter runs `button`, whatever control has the focus.
   void SetDefaultButton(QPushButton* button);
