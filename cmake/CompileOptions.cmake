@@ -1,8 +1,8 @@
 # What every target of the project is compiled with.
 add_library(vexa_options INTERFACE)
 
-# Results are exact to the last bit: no fused multiply-add, no reordering, and a power is the C
-# library's, not a product that the compiler puts in its place.
+# Results are exact to the last bit: no fused multiply-add, no reordering, and a power is always the
+# C library's, whatever product an optimizer would put in its place.
 target_compile_options(vexa_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -ffp-contract=off
   -fno-builtin-pow)

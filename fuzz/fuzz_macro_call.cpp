@@ -36,9 +36,9 @@ void CheckInlined(const std::wstring& formula, const MacroTable& macros) {
   const std::wstring inlined = InlineMacros(formula, macros, error);
   const int calls = CallMarks(formula);
   if (calls == 0) Promise(inlined == formula && error.empty(), "without a call nothing changes");
-  // Calls that an engine has no room for are left.
+  // Calls that an engine has no room for are left; a name may hold a mark, too.
   const int left = std::max(calls - kMaxTokens - 1, 0);
-  if (error.empty()) Promise(CallMarks(inlined) == left, "formulas stand in the places of calls");
+  if (error.empty()) Promise(CallMarks(inlined) <= left, "formulas stand in the places of calls");
 }
 
 }  // namespace

@@ -62,6 +62,38 @@ bool IsFormula(std::wstring_view text, FormulaType type) {
   return parser.errorText.empty();
 }
 
+/// Whether a ")" comes before its "(" in `formula`: in parentheses of its own it would find
+/// another.
+bool ClosesTooEarly(std::wstring_view formula) {
+  int depth = 0;
+  for (const wchar_t c : formula) {
+    if (c == L'(') ++depth;
+    if (c == L')' && --depth < 0) return true;
+  }
+  return false;
+}
+
+/// Whether a function stands alone in its parentheses: it takes the operand behind them, of which a
+/// call leaves one value, and the formula in its place several.
+bool HasLoneFunction(std::wstring_view formula) {
+  ExprParser parser;
+  parser.formulaType = kAnyVariables;
+  parser.Validate(formula);
+  if (!parser.errorText.empty()) return false;
+  const auto lone = [](const Token& a, const Token& b) {
+    return a.kind == kFunctionKind && b.op == ')';
+  };
+  const auto end = parser.tokens.begin() + parser.tokenCount;
+  return std::adjacent_find(parser.tokens.begin(), end, lone) != end;
+}
+
+/// `text` with single blanks only: more take room and mean nothing.
+std::wstring WithSingleBlanks(std::wstring text) {
+  const auto areBlanks = [](wchar_t a, wchar_t b) { return a == L' ' && b == L' '; };
+  text.erase(std::unique(text.begin(), text.end(), areBlanks), text.end());
+  return text;
+}
+
 /// Puts formulas in the places of calls. Each macro is looked at once, however often it is called.
 class CallInliner {
  public:
@@ -86,6 +118,7 @@ class CallInliner {
     }
     const std::wstring& formula = FormulaOf(*index, type);
     if (formula.empty()) return error = kMacroFormulaError, L"";
+    if (ClosesTooEarly(formula)) return error = kExpressionErrorText, L"";
     return InParentheses(Substituted(formula, arguments));
   }
 
@@ -106,7 +139,7 @@ class CallInliner {
   const std::wstring& FormulaOf(int index, FormulaType type) {
     std::optional<std::wstring>& formula = known[static_cast<std::size_t>(index)].formula;
     if (!formula) {
-      formula = macros.ReadFormula(index);
+      formula = WithSingleBlanks(macros.ReadFormula(index));
       if (!IsFormula(*formula, type)) formula->clear();
     }
     return *formula;
@@ -120,26 +153,29 @@ class CallInliner {
 
 std::wstring InlineMacros(std::wstring_view formula, const MacroTable& macros,
                           std::wstring& error) {
-  std::wstring text;
   error.clear();
-  std::size_t mark = formula.find(kMacroCallMark);
+  if (formula.find(kMacroCallMark) == std::wstring_view::npos) return std::wstring(formula);
+  const std::wstring spared = WithSingleBlanks(std::wstring(formula));
+  std::wstring_view rest = spared;
+  std::size_t mark = rest.find(kMacroCallMark);
   // Only the first call's left neighbour is tested; the engine sees the others'.
-  if (mark != std::wstring_view::npos && !MayPrecedeCall(formula.substr(0, mark))) {
-    return error = kExpressionErrorText;
-  }
+  if (!MayPrecedeCall(rest.substr(0, mark))) return error = kExpressionErrorText;
+  std::wstring text;
   CallInliner calls(macros);
   // More calls than a formula has records are not worth the room that they take.
   for (int n = 0; n <= kMaxTokens && mark != std::wstring_view::npos; ++n) {
-    text += formula.substr(0, mark);
-    formula.remove_prefix(mark + kMacroCallMark.size());
-    const std::optional<MacroCallText> call = ReadMacroCall(formula);
+    text += rest.substr(0, mark);
+    rest.remove_prefix(mark + kMacroCallMark.size());
+    const std::optional<MacroCallText> call = ReadMacroCall(rest);
     if (!call) return error = kExpressionErrorText;
     text += calls.Inlined(*call, error);
     if (!error.empty()) return error;
-    formula.remove_prefix(call->length);
-    mark = formula.find(kMacroCallMark);
+    rest.remove_prefix(call->length);
+    mark = rest.find(kMacroCallMark);
   }
-  return text += formula;
+  text += rest;
+  if (HasLoneFunction(text)) error = kExpressionErrorText;
+  return text;
 }
 
 }  // namespace vexa

@@ -22,7 +22,7 @@ double MemoryVariables::Value(int index) const {
 std::wstring MemoryVariables::FormulaText(int index) const {
   std::wstring text = Text(index);
   if (!ReadNumberBox(text)) return L"0";
-  std::erase(text, L',');
+  std::erase_if(text, [](wchar_t c) { return c == L',' || c <= L' '; });
   return text;
 }
 

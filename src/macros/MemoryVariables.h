@@ -23,7 +23,7 @@ class MemoryVariables {
   std::wstring Text(int index) const;
   /// The number in slot `index`; 0 when its text is none, or none that can be calculated with.
   double Value(int index) const;
-  /// The number in slot `index` as a formula can hold it: its text without separators at thousands;
+  /// The number in slot `index` as a formula can hold it: its text without separators and blanks;
   /// "0" when the text is no number.
   std::wstring FormulaText(int index) const;
   /// Slot `index` as the list shows it: Mem01 = 2.5

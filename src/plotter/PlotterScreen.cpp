@@ -164,8 +164,9 @@ void PlotterScreen::Delete() {
 
 void PlotterScreen::SelectFunction(int index) {
   functions.Select(index);
-  // The focus stays with the list, whose keys may choose again.
   Line()->ReplaceText(functions.At(index));
+  // Keys that choose in the closed list may choose again.
+  if (list->WasChosenInOpenList()) Line()->setFocus();
 }
 
 void PlotterScreen::Plot() {

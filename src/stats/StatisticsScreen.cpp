@@ -193,7 +193,9 @@ void StatisticsScreen::EndEditing() {
 }
 
 void StatisticsScreen::LeaveEdits() {
-  // An edit that gets its focus back from a box would show the keyboard again.
+  // An edit that gets its focus back from a box would show the keyboard again. While a row is
+  // edited the list takes no focus.
+  form->LastEdit()->clearFocus();
   table->setFocus();
   HideKeyboard();
 }

@@ -103,7 +103,7 @@ void ModeScreen::ShowAbout() {
 void ModeScreen::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && defaultButton) {
-    // A key that is held down runs it once: rows would be added without end.
+    // A key that is held down runs it once: nobody means what comes of more.
     if (!event->isAutoRepeat()) defaultButton->click();
     return;
   }

@@ -24,6 +24,7 @@ TouchComboBox::TouchComboBox(QWidget* parent) : QComboBox(parent), list(new Sear
 }
 
 void TouchComboBox::keyPressEvent(QKeyEvent* event) {
+  chosenInOpenList = false;
   // A blank opens the list, unless it stands between the words that are searched.
   if (event->key() == Qt::Key_Space && list->IsSearching()) {
     list->setCurrentIndex(model()->index(currentIndex(), modelColumn()));
@@ -53,6 +54,11 @@ void TouchComboBox::paintEvent(QPaintEvent*) {
 void TouchComboBox::showPopup() {
   emit Opening();
   QComboBox::showPopup();
+}
+
+void TouchComboBox::hidePopup() {
+  QComboBox::hidePopup();
+  chosenInOpenList = true;
 }
 
 }  // namespace vexa

@@ -16,6 +16,9 @@ class TouchComboBox : public QComboBox {
   explicit TouchComboBox(QWidget* parent);
 
   void showPopup() override;
+  void hidePopup() override;
+  /// Whether the entry was chosen last in the open list, not by a key while it was closed.
+  bool WasChosenInOpenList() const { return chosenInOpenList; }
 
  signals:
   /// The list is about to drop down.
@@ -27,6 +30,7 @@ class TouchComboBox : public QComboBox {
 
  private:
   SearchedList* list;
+  bool chosenInOpenList = false;
 };
 
 }  // namespace vexa

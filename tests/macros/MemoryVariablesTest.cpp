@@ -62,7 +62,8 @@ TEST(MemoryVariables, FormulasGetNumbersWithoutSeparators) {
                                                              {L"", L"0"},
                                                              {L"1,2", L"0"},
                                                              {L"1 apple", L"0"},
-                                                             {L"1e999", L"0"}};
+                                                             {L"1e999", L"0"},
+                                                             {L" 12\t", L"12"}};
   for (const auto& [stored, text] : cases) {
     variables.Store(3, stored);
     EXPECT_EQ(variables.FormulaText(3), text);

@@ -135,6 +135,10 @@ void GraphViewTest::OpensAtHome() {
   QCOMPARE(Values()->count(), 3);
   QCOMPARE(Values()->currentText(), QStringLiteral("R:F1(X) = 0"));
   QVERIFY(Plot()->hasFocus());
+  GraphData wide = test::Graph({L"x"});
+  wide.functions[0].label.append(1000, L'+');
+  Open(wide);
+  QCOMPARE(Functions()->itemText(0).size(), qsizetype{500});
   GraphData degrees = test::Graph({L"x"});
   degrees.angleType = AngleType::Degrees;
   Open(degrees);

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QScrollBar>
 
 #include "display/DisplayFormattingDialog.h"
 #include "display/MemorySettingsStore.h"
@@ -41,6 +42,7 @@ class PlotterScreenTest : public QObject {
   void ThreeFunctionsDisableAdd();
   void DeleteAsksFirst();
   void ChoosingAFunctionPutsItIntoTheField();
+  void ChoosingInTheOpenListGoesOnInTheField();
   void ListsShowTheFrontOfALongFunction();
   void PbListsTheNewestFirst();
   void PlotOpensTheGraph();
@@ -263,6 +265,24 @@ void PlotterScreenTest::ChoosingAFunctionPutsItIntoTheField() {
   QTest::keyClicks(List(), QStringLiteral("sqrt"));
   QCOMPARE(Field(), QStringLiteral("sqrt(x)"));
   QCOMPARE(List()->currentText(), QStringLiteral("sqrt(x)"));
+}
+
+void PlotterScreenTest::ChoosingInTheOpenListGoesOnInTheField() {
+  for (const char* text : {"x", "sin(x)"}) {
+    SetField(QString::fromLatin1(text));
+    PressKey("A");
+  }
+  Box("X max")->setFocus();
+  List()->setFocus();
+  List()->showPopup();
+  QTRY_VERIFY(List()->view()->isVisible());
+  const QRect first = List()->view()->visualRect(List()->model()->index(0, 0));
+  QTest::mouseMove(List()->view()->viewport(), first.center());
+  // The list takes no release right after it has opened.
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  QTest::mouseClick(List()->view()->viewport(), Qt::LeftButton, {}, first.center());
+  QTRY_COMPARE(Field(), QStringLiteral("x"));
+  QVERIFY(field->hasFocus());
 }
 
 void PlotterScreenTest::ListsShowTheFrontOfALongFunction() {
@@ -502,6 +522,8 @@ void PlotterScreenTest::EverythingFitsAtTheSmallestSize() {
     if (isTarget && control->isVisible()) shown << control;
   }
   QVERIFY(shown.size() > 50);
+  SetField(QStringLiteral("x+1"));
+  QVERIFY2(!field->verticalScrollBar()->isVisible(), "a row has room");
   for (const QWidget* control : shown) {
     const QRect place(control->mapTo(screen.get(), QPoint()), control->size());
     QVERIFY2(screen->rect().contains(place), qPrintable(control->objectName()));

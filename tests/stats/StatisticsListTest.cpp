@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "stats/DataTableModel.h"
 #include "stats/StatisticsScreenDriver.h"
 #include "toolkit/FileDialogs.h"
 #include "toolkit/KeyboardOnFocus.h"
@@ -30,6 +31,8 @@ class StatisticsListTest : public QObject {
   void SaysWhatIsWrongAndGoesThere();
   void SelectingEnablesEditAndDelete();
   void EditingShowsOkAndCancel();
+  void RowsStayReadableWhileOneIsEdited();
+  void RowsThatAreGoneShowNothing();
   void OkWritesTheRow();
   void EnterIsOkWhileEditing();
   void AnUnreadableEditLeavesEditingOn();
@@ -164,6 +167,30 @@ void StatisticsListTest::EditingShowsOkAndCancel() {
     QVERIFY2(!one->IsEnabled(caption), caption);
   }
   QVERIFY(one->IsEnabled("ΣX"));
+}
+
+void StatisticsListTest::RowsStayReadableWhileOneIsEdited() {
+  one->Add({"1", "1"});
+  one->SelectRows({0});
+  one->Press("Edit");
+  QVERIFY(!one->Table()->isEnabled());
+  const QPalette colours = one->Table()->palette();
+  const int text = colours.color(QPalette::Disabled, QPalette::Text).lightness();
+  const int ground = colours.color(QPalette::Disabled, QPalette::Base).lightness();
+  QVERIFY(std::abs(text - ground) > 110);
+  QCOMPARE(colours.color(QPalette::Disabled, QPalette::Highlight),
+           colours.color(QPalette::Active, QPalette::Highlight));
+}
+
+void StatisticsListTest::RowsThatAreGoneShowNothing() {
+  DataList list(kOneVarColumns);
+  DataTableModel model(list, nullptr);
+  list.Add(std::vector<std::wstring>{L"1"}, 1);
+  list.Add(std::vector<std::wstring>{L"2"}, 1);
+  model.RowsReplaced();
+  list.Delete(1);
+  QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("2"));
+  QVERIFY(!model.index(1, 0).data().isValid());
 }
 
 void StatisticsListTest::OkWritesTheRow() {

@@ -59,14 +59,14 @@ void TouchComboBoxTest::ABlankOpensTheListUnlessItIsSearched() {
 }
 
 void TouchComboBoxTest::AnEntryThatABlankFindsIsChosen() {
-  box->addItem(QStringLiteral("Lightyear"));
-  box->insertItem(0, QStringLiteral("Lightyear"));
-  box->setCurrentIndex(0);
+  box->insertItem(2, QStringLiteral("Lightyear"));
+  QTest::keyClicks(box.get(), QStringLiteral("light"));
+  QCOMPARE(box->currentText(), QStringLiteral("Lightyear"));
   QSignalSpy chosen(box.get(), &QComboBox::activated);
-  QTest::keyClicks(box.get(), QStringLiteral("light "));
+  QTest::keyClick(box.get(), Qt::Key_Space);
   QCOMPARE(box->currentText(), QStringLiteral("Light minutes"));
-  QVERIFY(!chosen.isEmpty());
-  QCOMPARE(chosen.back().at(0).toInt(), box->currentIndex());
+  QCOMPARE(chosen.size(), qsizetype{1});
+  QCOMPARE(chosen[0].at(0).toInt(), 3);
 }
 
 void TouchComboBoxTest::LongEntriesEndInDots() {
