@@ -86,8 +86,9 @@ double CorrelationOf(const DataList& list) {
 
 Coefficients FitCurve(const DataList& list, RegressionModel model, std::size_t count) {
   const auto transformation = std::ranges::find(kTransformations, model, &Transformation::model);
-  if (transformation == std::ranges::end(kTransformations))
+  if (transformation == std::ranges::end(kTransformations)) {
     return {kNoNumber, kNoNumber, kNoNumber};
+  }
   const auto c = Solve(EquationsOf(list, *transformation, count), count);
   switch (model) {
     case RegressionModel::Inverse: {

@@ -250,7 +250,7 @@ void StatisticsScreen::SaveThen(std::function<void()> next) {
                                  });
 }
 
-void StatisticsScreen::SaveTo(const QString& path, std::function<void()> next) {
+void StatisticsScreen::SaveTo(const QString& path, const std::function<void()>& next) {
   const FileOutcome outcome = RunWithProgress(this, QStringLiteral("Saving..."), [&](auto watcher) {
     return SaveDataFile(path, statistics.List().Rows(), watcher);
   });

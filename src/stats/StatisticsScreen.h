@@ -85,7 +85,7 @@ class StatisticsScreen : public ModeScreen {
   /// Asks for a file, saves, and runs `next`: also when no file is chosen, not when the saving
   /// fails or is stopped.
   void SaveThen(std::function<void()> next);
-  void SaveTo(const QString& path, std::function<void()> next);
+  void SaveTo(const QString& path, const std::function<void()>& next);
 
   SettingsStore& store;
   Statistics statistics;
