@@ -100,10 +100,17 @@ void UserConversionDialog::Edit() {
   Focus(box);
 }
 
+ConversionBoxes UserConversionDialog::Typed() const {
+  return {firstName->text().toStdWString(), secondName->text().toStdWString(),
+          rate->text().toStdWString()};
+}
+
+bool UserConversionDialog::IsChanged() const {
+  return Typed() != editor.Boxes();
+}
+
 void UserConversionDialog::Save() {
-  const SaveOutcome outcome =
-      editor.Save({firstName->text().toStdWString(), secondName->text().toStdWString(),
-                   rate->text().toStdWString()});
+  const SaveOutcome outcome = editor.Save(Typed());
   if (!outcome.sentence.empty()) {
     ShowErrorBox(this, outcome.sentence, [this, box = outcome.focus] { Focus(box); });
     return;

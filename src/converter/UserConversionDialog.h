@@ -21,6 +21,8 @@ class UserConversionDialog : public ListEditorDialog {
   /// Shows the list too, which gets the focus.
   void ShowViewState();
   void Focus(ConversionBox box);
+  /// What the boxes hold.
+  ConversionBoxes Typed() const;
 
   void New() override;
   void Edit() override;
@@ -28,6 +30,7 @@ class UserConversionDialog : public ListEditorDialog {
   void Save() override;
   void Cancel() override;
   void RecallVariable() override;
+  bool IsChanged() const override;
   void Select(int index) override;
 
   SettingsStore& store;

@@ -21,6 +21,8 @@ struct ConversionBoxes {
   std::wstring firstName;
   std::wstring secondName;
   std::wstring rate;
+
+  bool operator==(const ConversionBoxes&) const = default;
 };
 
 /// Why Save was refused and where the focus goes; an empty sentence: saved.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "toolkit/LineText.h"
+
 namespace vexa {
 namespace {
 
@@ -69,7 +71,7 @@ MacroEditor::Fields MacroEditor::ShownFields() const {
   const int index = editing ? edited : selected;
   if (index < 0) return {};
   const Macro& macro = macros.At(index);
-  return {macro.name, TypeIndex(macro.type), macros.ReadFormula(index)};
+  return {macro.name, TypeIndex(macro.type), LineText(macros.ReadFormula(index))};
 }
 
 MacroEditor::Refusal MacroEditor::Check(const Fields& trimmed) const {

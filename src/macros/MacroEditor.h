@@ -25,6 +25,8 @@ class MacroEditor {
     std::wstring name;
     int type = -1;
     std::wstring formula;
+
+    bool operator==(const Fields&) const = default;
   };
 
   /// Why nothing was saved, and the field at fault; an empty sentence: saved.
@@ -58,7 +60,8 @@ class MacroEditor {
   bool IsEditing() const { return editing; }
   /// What is shown and enabled, and the list's label.
   ListEditorView View() const { return ViewOfListEditor(editing, macros.Count(), kMaxMacros); }
-  /// What the fields show: the new macro's empty fields, or the selected macro.
+  /// What the fields show: the new macro's empty fields, or the selected macro. A formula of
+  /// several lines is shown as one.
   Fields ShownFields() const;
 
  private:

@@ -7,7 +7,6 @@
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/EditLine.h"
 #include "toolkit/KeyboardOnFocus.h"
-#include "toolkit/LineText.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/TouchSize.h"
 
@@ -49,6 +48,14 @@ void MacroEditorDialog::BuildFields() {
   AddField(L"Macro Expression(Max Len:150)", formula, 1);
 }
 
+MacroEditor::Fields MacroEditorDialog::Typed() const {
+  return {name->text().toStdWString(), type->currentIndex(), formula->Text()};
+}
+
+bool MacroEditorDialog::IsChanged() const {
+  return Typed() != editor.ShownFields();
+}
+
 std::array<QWidget*, 3> MacroEditorDialog::Fields() const {
   return {name, type, formula};
 }
@@ -58,7 +65,7 @@ void MacroEditorDialog::Refresh() {
   const MacroEditor::Fields shown = editor.ShownFields();
   name->setText(FromWide(shown.name));
   type->setCurrentIndex(shown.type);
-  formula->setPlainText(FromWide(LineText(shown.formula)));
+  formula->setPlainText(FromWide(shown.formula));
 }
 
 void MacroEditorDialog::New() {
@@ -82,8 +89,7 @@ void MacroEditorDialog::Delete() {
 }
 
 void MacroEditorDialog::Save() {
-  const MacroEditor::Refusal refusal =
-      editor.Save({name->text().toStdWString(), type->currentIndex(), formula->Text()});
+  const MacroEditor::Refusal refusal = editor.Save(Typed());
   if (!refusal.sentence.empty()) {
     QWidget* const field = Fields()[static_cast<std::size_t>(refusal.field)];
     ShowErrorBox(this, refusal.sentence, [field] { field->setFocus(); });

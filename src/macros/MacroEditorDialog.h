@@ -26,6 +26,8 @@ class MacroEditorDialog : public ListEditorDialog {
   /// Shows the list too, which gets the focus.
   void ShowViewState();
   void InsertVariable(int index);
+  /// What the fields hold.
+  MacroEditor::Fields Typed() const;
   /// The fields in the order of MacroEditor::Field.
   std::array<QWidget*, 3> Fields() const;
 
@@ -35,6 +37,7 @@ class MacroEditorDialog : public ListEditorDialog {
   void Save() override;
   void Cancel() override;
   void RecallVariable() override;
+  bool IsChanged() const override;
   void Select(int index) override;
 
   SettingsStore& store;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "display/WideText.h"
+#include "toolkit/MessageBox.h"
 #include "toolkit/Theme.h"
 #include "toolkit/TouchList.h"
 #include "toolkit/TouchSize.h"
@@ -68,8 +69,9 @@ void ListEditorDialog::FocusList() {
 }
 
 void ListEditorDialog::reject() {
-  if (editing) return Cancel();
-  Dialog::reject();
+  if (!editing) return Dialog::reject();
+  if (!IsChanged()) return Cancel();
+  AskToDiscard(this, [this] { Cancel(); });
 }
 
 }  // namespace vexa

@@ -16,7 +16,8 @@ class ListEditorDialog : public Dialog {
   Q_OBJECT
 
  public:
-  /// While an entry is being edited, Escape and the window's close button end the editing only.
+  /// While an entry is being edited, Escape and the window's close button end the editing only,
+  /// and ask before they discard what was changed.
   void reject() override;
 
  protected:
@@ -36,6 +37,8 @@ class ListEditorDialog : public Dialog {
   virtual void Save() = 0;
   virtual void Cancel() = 0;
   virtual void RecallVariable() = 0;
+  /// Whether the edited fields hold anything else than when the editing began.
+  virtual bool IsChanged() const = 0;
   /// Line `index` of the list was selected; -1: none is.
   virtual void Select(int index) = 0;
 

@@ -37,6 +37,10 @@ void AskYesNo(QWidget* parent, const std::wstring& question, std::function<void(
   box->open();
 }
 
+void AskToDiscard(QWidget* parent, std::function<void()> discard) {
+  AskYesNo(parent, std::wstring(kDiscardQuestion), std::move(discard));
+}
+
 void AskEitherWay(QWidget* parent, const std::wstring& question,
                   std::function<void(bool yes)> answered) {
   QMessageBox* const box =

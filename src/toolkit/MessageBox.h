@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 class QWidget;
 
@@ -15,6 +16,14 @@ void ShowErrorBox(
 /// Asks `question` with the question icon, answers "Yes" and "No" (the default); `yes` runs when
 /// the user agrees.
 void AskYesNo(QWidget* parent, const std::wstring& question, std::function<void()> yes);
+
+/// What AskToDiscard asks.
+inline constexpr std::wstring_view kDiscardQuestion =
+    L"Are you sure you want to discard your changes?";
+
+/// Asks in the same way before Escape or a window's close button throws away what was typed and not
+/// saved; `discard` runs when the user agrees. A "Cancel" button that was pressed asks nothing.
+void AskToDiscard(QWidget* parent, std::function<void()> discard);
 
 /// Asks `question` in the same way where both answers lead on: `answered` runs with whether it was
 /// "Yes" (the default). Escape is no answer: it takes back what led to the question, and nothing

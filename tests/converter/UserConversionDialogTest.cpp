@@ -33,6 +33,8 @@ class UserConversionDialogTest : public QObject {
   void SelectingShowsTheConversion();
   void CancelShowsTheSelectedConversion();
   void EscapeEndsTheEditingOnly();
+  void EscapeAsksBeforeWhatWasTypedIsLost_data();
+  void EscapeAsksBeforeWhatWasTypedIsLost();
   void EnterRunsTheShownButton();
   void DeleteAsksFirst();
   void DeleteRenumbersWhatFollows();
@@ -150,6 +152,46 @@ void UserConversionDialogTest::EscapeEndsTheEditingOnly() {
   QSignalSpy rejected(screen.dialog, &QDialog::rejected);
   QTest::keyClick(screen.list, Qt::Key_Escape);
   QCOMPARE(rejected.count(), 1);
+}
+
+void UserConversionDialogTest::EscapeAsksBeforeWhatWasTypedIsLost_data() {
+  QTest::addColumn<QString>("opening");
+  QTest::addColumn<QString>("box");
+  for (const char* opening : {"New", "Edit"}) {
+    for (const char* box : {"Input unit name", "Output unit name", "Rate"}) {
+      QTest::addRow("%s, %s", opening, box) << QString(opening) << QString(box);
+    }
+  }
+}
+
+void UserConversionDialogTest::EscapeAsksBeforeWhatWasTypedIsLost() {
+  QFETCH(QString, opening);
+  QFETCH(QString, box);
+  screen.Open(1);
+  screen.Press(qPrintable(opening));
+  const QStringList before = screen.Boxes();
+  auto* const typed = screen.dialog->findChild<QLineEdit*>(box);
+  typed->setFocus();
+  QTest::keyClick(typed, Qt::Key_7);
+  const QStringList changed = screen.Boxes();
+  QVERIFY(changed != before);
+  for (const bool close : {false, true}) {
+    if (close) {
+      screen.dialog->close();
+    } else {
+      QTest::keyClick(typed, Qt::Key_Escape);
+    }
+    QCOMPARE(test::ShownBox(), test::Question("Are you sure you want to discard your changes?"));
+    test::AnswerBox(QMessageBox::No);
+    QCOMPARE(screen.Boxes(), changed);
+    QTRY_VERIFY(typed->hasFocus());
+  }
+  QTest::keyClick(typed, Qt::Key_Escape);
+  test::AnswerBox(QMessageBox::Yes);
+  QVERIFY(screen.dialog->isVisible());
+  QCOMPARE(screen.Boxes(),
+           (QStringList{QStringLiteral("A0"), QStringLiteral("B0"), QStringLiteral("1.5")}));
+  QVERIFY(!typed->isEnabled());
 }
 
 void UserConversionDialogTest::EnterRunsTheShownButton() {

@@ -1,5 +1,6 @@
 // The macro editor's two states and what leads from one to the other.
 
+#include "display/WideText.h"
 #include "support/MacroEditorOnScreen.h"
 #include "support/ScreenMain.h"
 
@@ -27,6 +28,8 @@ class MacroEditorDialogTest : public QObject {
   void EditNeedsASelection();
   void CancelShowsTheEditedMacroAgain_data();
   void CancelShowsTheEditedMacroAgain();
+  void EscapeAsksOnlyAfterAChange_data();
+  void EscapeAsksOnlyAfterAChange();
   void EscapeInTheViewStateCloses();
   void DeleteAsksFirst();
   void DeletingTheLastMacroClearsTheFields();
@@ -123,11 +126,52 @@ void MacroEditorDialogTest::CancelShowsTheEditedMacroAgain() {
   if (leaving == QStringLiteral("Cancel")) editor->Press("Cancel");
   if (leaving == QStringLiteral("Escape")) QTest::keyClick(editor->name, Qt::Key_Escape);
   if (leaving == QStringLiteral("close")) editor->dialog->close();
+  if (leaving != QStringLiteral("Cancel")) {
+    // What was typed is not thrown away unasked.
+    QCOMPARE(ShownBox(), test::Question("Are you sure you want to discard your changes?"));
+    AnswerBox(QMessageBox::No);
+    editor->ExpectEditingState();
+    QCOMPARE(editor->name->text(), QStringLiteral("other"));
+    QTest::keyClick(editor->name, Qt::Key_Escape);
+    AnswerBox(QMessageBox::Yes);
+  }
   QVERIFY(editor->dialog && editor->dialog->isVisible());
   editor->ExpectViewState();
   QCOMPARE(editor->list->SelectedRow(), 1);
   QVERIFY(editor->Fields() == kThreeMacros[1]);
   QVERIFY(test::Stored(editor->store) == kThreeMacros);
+}
+
+void MacroEditorDialogTest::EscapeAsksOnlyAfterAChange_data() {
+  QTest::addColumn<QString>("opening");
+  QTest::addColumn<StoredMacro>("typed");
+  QTest::addColumn<bool>("asks");
+  const StoredMacro area = kThreeMacros[1];
+  QTest::newRow("nothing new") << QStringLiteral("New") << StoredMacro() << false;
+  QTest::newRow("a name") << QStringLiteral("New") << StoredMacro{L"a", L"", L""} << true;
+  QTest::newRow("a type") << QStringLiteral("New") << StoredMacro{L"", kType1, L""} << true;
+  QTest::newRow("a formula") << QStringLiteral("New") << StoredMacro{L"", L"", L"x"} << true;
+  QTest::newRow("the macro as it is") << QStringLiteral("Edit") << area << false;
+  QTest::newRow("its type") << QStringLiteral("Edit")
+                            << StoredMacro{area.name, kType3, area.formula} << true;
+  QTest::newRow("its formula") << QStringLiteral("Edit") << StoredMacro{area.name, area.type, L"x"}
+                               << true;
+}
+
+void MacroEditorDialogTest::EscapeAsksOnlyAfterAChange() {
+  QFETCH(QString, opening);
+  QFETCH(StoredMacro, typed);
+  QFETCH(bool, asks);
+  editor->Open();
+  editor->Tap(1);
+  editor->Press(qPrintable(opening));
+  editor->Fill(FromWide(typed.name), editor->type->findText(FromWide(typed.type)),
+               FromWide(typed.formula));
+  QTest::keyClick(editor->name, Qt::Key_Escape);
+  QCOMPARE(test::OpenBox() != nullptr, asks);
+  if (asks) AnswerBox(QMessageBox::Yes);
+  editor->ExpectViewState();
+  QVERIFY(editor->Fields() == kThreeMacros[1]);
 }
 
 void MacroEditorDialogTest::EscapeInTheViewStateCloses() {
