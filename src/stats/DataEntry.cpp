@@ -21,9 +21,7 @@ EntryFault ReadEntry(const EntryTexts& texts, DataEntry& entry) {
   const std::size_t countField = texts.size() - 1;
   EntryFault fault = ReadValues(texts, countField, entry);
   if (!fault.sentence.empty()) return fault;
-  const bool read =
-      ReadIntegerBox(texts[countField], Limits::min(), Limits::max(), entry.count).empty();
-  return {std::wstring(read ? L"" : kEnterInteger), countField};
+  return {ReadIntegerBox(texts[countField], Limits::min(), Limits::max(), entry.count), countField};
 }
 
 }  // namespace vexa

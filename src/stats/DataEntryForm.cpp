@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "display/WideText.h"
 #include "stats/EntryEdit.h"
@@ -34,6 +35,8 @@ DataEntryForm::DataEntryForm(std::span<const ListColumn> columns, QWidget* paren
   }
   for (const ListColumn& column : columns) AddEdit(column, &column == &columns.back());
   lastEdit = edits.front();
+  // What is typed first takes the place of the 0.
+  lastEdit->selectAll();
   setFocusProxy(lastEdit);
   for (const Key& key : EntryKeys()) AddKey(key);
   AddTotal();
@@ -89,6 +92,20 @@ void DataEntryForm::SetTexts(const EntryTexts& texts) {
   for (std::size_t n = 0; n < edits.size(); ++n) edits[n]->setText(FromWide(texts[n]));
 }
 
+void DataEntryForm::StartEditing(const EntryTexts& texts) {
+  formerTexts = Texts();
+  SetTexts(texts);
+  startTexts = Texts();
+}
+
+void DataEntryForm::PutCountBack() {
+  edits.back()->setText(FromWide(formerTexts.back()));
+}
+
+bool DataEntryForm::HasFocusInEdit() const {
+  return std::ranges::any_of(edits, &EntryEdit::hasFocus);
+}
+
 void DataEntryForm::FocusEdit(std::size_t field) {
   edits[field]->setFocus();
   edits[field]->selectAll();
@@ -97,6 +114,11 @@ void DataEntryForm::FocusEdit(std::size_t field) {
 void DataEntryForm::FocusLastEdit() {
   lastEdit->setFocus();
   lastEdit->selectAll();
+}
+
+void DataEntryForm::StartValue(const QString& text) {
+  FocusEdit(0);
+  edits.front()->insert(text);
 }
 
 void DataEntryForm::ReplaceLastText(const QString& text) {

@@ -25,12 +25,23 @@ class DataEntryForm : public QWidget {
   DataEntryForm(std::span<const ListColumn> columns, QWidget* parent);
 
   EntryTexts Texts() const;
-  void SetTexts(const EntryTexts& texts);
+  /// Shows the texts of a row that is edited now, and remembers those that there were.
+  void StartEditing(const EntryTexts& texts);
+  /// Whether the edits hold anything else than when the editing started.
+  bool IsChanged() const { return Texts() != startTexts; }
+  /// The row was written: its count is not meant for the next row.
+  void PutCountBack();
+  /// The row was left as it is: the edits hold what they held before.
+  void PutTextsBack() { SetTexts(formerTexts); }
+  /// Whether one of the edits has the focus.
+  bool HasFocusInEdit() const;
   /// The edit that had the focus last.
   EntryEdit* LastEdit() const { return lastEdit; }
   /// Gives the edit at `field` the focus, with its whole text selected.
   void FocusEdit(std::size_t field);
   void FocusLastEdit();
+  /// Goes on with what was typed elsewhere: the first edit starts with `text`.
+  void StartValue(const QString& text);
   /// Replaces the whole text of the edit that had the focus last, and gives it the focus.
   void ReplaceLastText(const QString& text);
   /// Shows what belongs to the state.
@@ -44,6 +55,7 @@ class DataEntryForm : public QWidget {
  private:
   void AddEdit(const ListColumn& column, bool isCount);
   void AddKey(const Key& key);
+  void SetTexts(const EntryTexts& texts);
   void AddTotal();
 
   QHBoxLayout* editRow;
@@ -51,6 +63,8 @@ class DataEntryForm : public QWidget {
   std::vector<EntryEdit*> edits;
   std::vector<QPushButton*> buttons;
   EntryEdit* lastEdit = nullptr;
+  EntryTexts formerTexts;
+  EntryTexts startTexts;
   QWidget* totals = nullptr;
   QLabel* total = nullptr;
 };

@@ -95,26 +95,36 @@ void DataList::Clear() {
   controls = ListControls();
 }
 
-bool DataList::Sort(std::size_t column, const ProgressWatcher& watcher) try {
+std::optional<DataList::SortedRows> DataList::Sorted(std::size_t column,
+                                                     const ProgressWatcher& watcher) const try {
   std::vector<double> values(RowCount());
   for (std::size_t row = 0; row < values.size(); ++row) {
     values[row] = Value(row, column);
     if (row % kReportEvery == kReportEvery - 1) {
       const double read = static_cast<double>(row) / static_cast<double>(values.size());
-      if (!watcher(read * kReadingShare)) return false;
+      if (!watcher(read * kReadingShare)) return std::nullopt;
     }
   }
   const auto order = SortOrder(values, nextDirection, [&](double sorted) {
     return watcher(kReadingShare + sorted * (1.0 - kReadingShare));
   });
-  if (!order) return false;
-  rows.Reorder(*order);
-  sortMark = SortMark{column, nextDirection};
+  if (!order) return std::nullopt;
+  return SortedRows{column, rows.Arranged(*order)};
+} catch (const std::bad_alloc&) {
+  return std::nullopt;
+}
+
+void DataList::TakeSorted(SortedRows sorted) {
+  rows.Arrange(std::move(sorted.rows));
+  sortMark = SortMark{sorted.column, nextDirection};
   nextDirection = nextDirection == SortDirection::Ascending ? SortDirection::Descending
                                                             : SortDirection::Ascending;
-  return true;
-} catch (const std::bad_alloc&) {
-  return false;
+}
+
+bool DataList::Sort(std::size_t column, const ProgressWatcher& watcher) {
+  std::optional<SortedRows> sorted = Sorted(column, watcher);
+  if (sorted) TakeSorted(*std::move(sorted));
+  return sorted.has_value();
 }
 
 void DataList::Load(DataSet data) {

@@ -82,9 +82,17 @@ class DataList {
   void Cancel();
   void Delete(std::size_t row);
   void Clear();
-  /// Sorts by the numbers of `column`, ascending the first time, then the other way each time,
-  /// whatever the column. False, and everything is as it was: `watcher` stopped it, or the memory
-  /// does not suffice.
+  /// The rows sorted by the numbers of `column`: ascending the first time, then the other way each
+  /// time, whatever the column. Nothing is changed, so that it can run beside the window.
+  struct SortedRows {
+    std::size_t column;
+    PackedRows::Arrangement rows;
+  };
+  /// None: `watcher` stopped it, or the memory does not suffice.
+  std::optional<SortedRows> Sorted(std::size_t column, const ProgressWatcher& watcher) const;
+  /// Puts the rows in the order that Sorted found for them as they are.
+  void TakeSorted(SortedRows sorted);
+  /// Both at once. False, and everything is as it was: there is no order.
   bool Sort(std::size_t column, const ProgressWatcher& watcher = Unwatched);
   /// Takes the place of all rows.
   void Load(DataSet data);

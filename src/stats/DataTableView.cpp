@@ -19,6 +19,18 @@ const QString kWideValue = QStringLiteral("-1.23457e+013");
 /// What the style leaves free beside a cell's text.
 constexpr int kCellPadding = 8;
 
+bool IsEditKey(int key) {
+  return key == Qt::Key_F2 || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Whether the key types a character with which a number may start.
+bool StartsNumber(const QKeyEvent& event) {
+  static const QString kStarts = QStringLiteral("0123456789.+-\u2212");
+  const auto modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  return modifiers == Qt::NoModifier && event.text().size() == 1 &&
+         kStarts.contains(event.text().front());
+}
+
 }  // namespace
 
 DataTableView::DataTableView(const DataList& shownList, QWidget* parent)
@@ -79,8 +91,11 @@ QSize DataTableView::minimumSizeHint() const {
 void DataTableView::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Delete)) {
     emit DeleteAsked();
-  } else if (event->key() == Qt::Key_F2) {
-    emit EditAsked();
+  } else if (IsEditKey(event->key())) {
+    // A held key that has just ended an editing does not start it again.
+    if (!event->isAutoRepeat()) emit EditAsked();
+  } else if (StartsNumber(*event)) {
+    emit NumberTyped(event->text());
   } else {
     QTableView::keyPressEvent(event);
   }

@@ -37,11 +37,15 @@ class DataTableView : public QTableView {
   void SortAsked(int column);
   /// The key that deletes was pressed.
   void DeleteAsked();
-  /// The key that edits was pressed, or a row was clicked twice.
+  /// A key that edits was pressed, or a row was clicked twice.
   void EditAsked();
+  /// The start of a number was typed.
+  void NumberTyped(const QString& text);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  /// Finds nothing: the rows are not to be looked through for each key, however many there are.
+  void keyboardSearch(const QString&) override {}
   /// Home and End go to the first and the last row.
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void resizeEvent(QResizeEvent* event) override;

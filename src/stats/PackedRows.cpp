@@ -59,11 +59,11 @@ void PackedRows::Remove(std::size_t row) {
   rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(row));
 }
 
-void PackedRows::Reorder(std::span<const std::size_t> order) {
-  std::vector<const char*> ordered(rows.size());
-  std::transform(order.begin(), order.end(), ordered.begin(),
+PackedRows::Arrangement PackedRows::Arranged(std::span<const std::size_t> order) const {
+  Arrangement arranged(rows.size());
+  std::transform(order.begin(), order.end(), arranged.begin(),
                  [this](std::size_t row) { return rows[row]; });
-  rows = std::move(ordered);
+  return arranged;
 }
 
 const char* PackedRows::Stored(std::span<const std::string> cells) {

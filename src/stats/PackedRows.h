@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace vexa {
@@ -26,8 +27,11 @@ class PackedRows {
   void Replace(std::size_t row, std::span<const std::string> cells);
 
   void Remove(std::size_t row);
-  /// Puts the row that stands at order[i] at i; `order` names every row once.
-  void Reorder(std::span<const std::size_t> order);
+  /// The rows in an order of their own, valid while no row is added, replaced or removed.
+  using Arrangement = std::vector<const char*>;
+  /// The arrangement with the row that stands at order[i] at i; `order` names every row once.
+  Arrangement Arranged(std::span<const std::size_t> order) const;
+  void Arrange(Arrangement arrangement) { rows = std::move(arrangement); }
 
  private:
   /// Keeps the texts and returns where: the length of each text, then its characters.
@@ -35,7 +39,7 @@ class PackedRows {
   char* Reserve(std::size_t size);
 
   std::size_t columns;
-  std::vector<const char*> rows;
+  Arrangement rows;
   /// The texts of all rows; those of replaced and removed rows stay until the object goes.
   std::vector<std::unique_ptr<char[]>> blocks;
   char* free = nullptr;

@@ -3,6 +3,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "display/DisplayType.h"
@@ -41,9 +42,7 @@ class Statistics {
   void Cancel() { list.Cancel(); }
   void Delete(std::size_t row);
   void Clear();
-  bool Sort(std::size_t column, const ProgressWatcher& watcher = Unwatched) {
-    return list.Sort(column, watcher);
-  }
+  void TakeSorted(DataList::SortedRows sorted) { list.TakeSorted(std::move(sorted)); }
   void Load(DataSet data);
   void Saved() { list.Saved(); }
 

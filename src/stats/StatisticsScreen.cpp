@@ -95,6 +95,7 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
   connect(table, &DataTableView::SortAsked, this, &StatisticsScreen::Sort);
   connect(table, &DataTableView::DeleteAsked, this, &StatisticsScreen::Delete);
   connect(table, &DataTableView::EditAsked, this, &StatisticsScreen::Edit);
+  connect(table, &DataTableView::NumberTyped, form, &DataEntryForm::StartValue);
   connect(table, &DataTableView::SelectedRowsChanged, this, [this] {
     statistics.SelectionChanged(table->FirstSelectedRow().has_value());
     HideKeyboard();
@@ -110,8 +111,8 @@ void StatisticsScreen::BuildMenus() {
   menu->addSeparator();
   for (std::size_t n = 0; n < statistics.List().Columns().size(); ++n) {
     const QString caption = FromWide(statistics.List().Columns()[n].caption);
-    menu->addAction(QStringLiteral("Sort by %1").arg(caption), this,
-                    [this, n] { Sort(static_cast<int>(n)); });
+    sortCommands << menu->addAction(QStringLiteral("Sort by %1").arg(caption), this,
+                                    [this, n] { Sort(static_cast<int>(n)); });
   }
 }
 
@@ -128,6 +129,7 @@ void StatisticsScreen::Refresh() {
   listKeys->Refresh(isShown, isEnabled);
   resultKeys->Refresh(isShown, isEnabled);
   table->setEnabled(state.controls.list);
+  for (QAction* const sort : sortCommands) sort->setEnabled(state.controls.list);
   table->ShowSortMark();
   resultLine->ShowText(FromWide(statistics.resultLine));
   SetDefaultButton(form->Button(state.editing ? L"Ok" : L"Add"));
@@ -141,7 +143,13 @@ void StatisticsScreen::RunKey(std::wstring_view caption) {
 }
 
 void StatisticsScreen::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && statistics.List().EditedRow()) return Cancel();
+  if (event->key() == Qt::Key_Escape && statistics.List().EditedRow()) return AskToCancel();
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && !form->HasFocusInEdit()) {
+    auto* const key = qobject_cast<QAbstractButton*>(window()->focusWidget());
+    if (key && !event->isAutoRepeat()) key->click();
+    return;
+  }
   ModeScreen::keyPressEvent(event);
 }
 
@@ -171,7 +179,7 @@ void StatisticsScreen::Add() {
 void StatisticsScreen::Edit() {
   const auto row = table->FirstSelectedRow();
   if (!row) return;
-  form->SetTexts(statistics.Edit(*row));
+  form->StartEditing(statistics.Edit(*row));
   Refresh();
   form->FocusEdit(0);
 }
@@ -179,12 +187,19 @@ void StatisticsScreen::Edit() {
 void StatisticsScreen::Ok() {
   if (Complain(statistics.Ok(form->Texts()))) return;
   table->Rows()->TextsChanged();
+  form->PutCountBack();
   EndEditing();
 }
 
 void StatisticsScreen::Cancel() {
   statistics.Cancel();
+  form->PutTextsBack();
   EndEditing();
+}
+
+void StatisticsScreen::AskToCancel() {
+  if (!form->IsChanged()) return Cancel();
+  AskToDiscard(this, [this] { Cancel(); });
 }
 
 void StatisticsScreen::EndEditing() {
@@ -225,10 +240,13 @@ void StatisticsScreen::Clear() {
 
 void StatisticsScreen::Sort(int column) {
   if (!statistics.List().Controls().list) return;
-  const bool sorted = RunWithProgress(this, QStringLiteral("Sorting..."), [&](auto watcher) {
-    return statistics.Sort(static_cast<std::size_t>(column), watcher);
+  auto sorted = RunWithProgress(this, QStringLiteral("Sorting..."), [&](auto watcher) {
+    return statistics.List().Sorted(static_cast<std::size_t>(column), watcher);
   });
-  if (sorted) table->Rows()->TextsChanged();
+  if (sorted) {
+    statistics.TakeSorted(*std::move(sorted));
+    table->Rows()->TextsChanged();
+  }
   Refresh();
 }
 
@@ -246,7 +264,7 @@ void StatisticsScreen::SaveThen(std::function<void()> next) {
   LeaveEdits();
   file_dialogs::AskForFileToSave(this, QString::fromLatin1(kFileFilter),
                                  [this, next = std::move(next)](const file_dialogs::Answer& path) {
-                                   path ? SaveTo(*path, next) : next();
+                                   if (path) SaveTo(*path, next);
                                  });
 }
 

@@ -40,6 +40,7 @@ class StatisticsScreen : public ModeScreen {
   virtual void RunKey(std::wstring_view caption);
 
   void PrepareToLeave(const std::function<void()>& leave) override;
+  /// Enter means what has the focus: an edit's row, the key, the list's row.
   void keyPressEvent(QKeyEvent* event) override;
   /// Shows all result keys where there is room for them.
   void resizeEvent(QResizeEvent* event) override;
@@ -60,6 +61,8 @@ class StatisticsScreen : public ModeScreen {
   void Edit();
   void Ok();
   void Cancel();
+  /// Leaves the editing by a key that is hit by mistake, too: asks before typed text is lost.
+  void AskToCancel();
   void EndEditing();
   /// Takes the focus from the edits, and the on-screen keyboard away.
   void LeaveEdits();
@@ -79,11 +82,9 @@ class StatisticsScreen : public ModeScreen {
   void Configure();
   void RunEditCommand(EditCommand command);
 
-  /// Asks whether to save what would be lost, saves it, and runs `next` either way, unless the
-  /// saving fails.
+  /// Asks whether to save what would be lost, and runs `next` when it is not to be saved or was.
   void AskToSaveThen(std::function<void()> next);
-  /// Asks for a file, saves, and runs `next`: also when no file is chosen, not when the saving
-  /// fails or is stopped.
+  /// Asks for a file, saves, and runs `next` when the rows are in a file.
   void SaveThen(std::function<void()> next);
   void SaveTo(const QString& path, const std::function<void()>& next);
 
@@ -92,6 +93,7 @@ class StatisticsScreen : public ModeScreen {
   DataEntryForm* form;
   DataTableView* table;
   Keypad* listKeys;
+  QList<QAction*> sortCommands;
   ResultLine* resultLine;
   QScrollArea* resultArea;
   Keypad* resultKeys;

@@ -5,7 +5,10 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QThread>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
@@ -14,7 +17,8 @@
 namespace vexa {
 namespace {
 
-/// A frame: more often nobody would see it.
+/// Work that ends this soon is waited for: nobody would see anything happen meanwhile.
+constexpr int kUnseenMs = 50;
 constexpr int kFrameMs = 16;
 constexpr int kSteps = 1000;
 constexpr int kWidth = 220;
@@ -24,23 +28,52 @@ constexpr int kWidth = 220;
 int ProgressBox::patienceMs = 200;
 
 ProgressBox::ProgressBox(QWidget* waitingOwner, const QString& boxTitle)
-    : owner(waitingOwner), title(boxTitle) {
-  sinceStart.start();
-}
+    : owner(waitingOwner), title(boxTitle) {}
 
 ProgressBox::~ProgressBox() = default;
 
-bool ProgressBox::Report(double share) {
-  if (!dialog) {
-    if (sinceStart.elapsed() < patienceMs) return true;
+void ProgressBox::Run(const std::function<void()>& work) {
+  if (patienceMs == 0) {
     Open();
-  } else if (sinceShown.elapsed() < kFrameMs) {
-    return true;
+    QCoreApplication::processEvents();
+    Look();
   }
-  bar->setValue(qRound(share * kSteps));
-  QCoreApplication::processEvents();
-  sinceShown.start();
-  return !cancelled && owner->isVisible();
+  const std::unique_ptr<QThread> worker(QThread::create(work));
+  worker->start();
+  if (worker->wait(static_cast<unsigned long>(std::min(patienceMs, kUnseenMs)))) return;
+  // What is typed before the box opens is for the window, afterwards.
+  if (!dialog) Await(*worker, QEventLoop::ExcludeUserInputEvents, patienceMs - kUnseenMs);
+  if (!worker->isFinished()) {
+    if (!dialog) Open();
+    Await(*worker, QEventLoop::AllEvents, std::nullopt);
+  }
+  // The program may be ending, which ends every wait for events at once.
+  stopped = true;
+  worker->wait();
+}
+
+void ProgressBox::Await(const QThread& worker, QEventLoop::ProcessEventsFlags events,
+                        std::optional<int> atMostMs) {
+  QEventLoop loop;
+  QObject::connect(&worker, &QThread::finished, &loop, &QEventLoop::quit);
+  QTimer frame;
+  QObject::connect(&frame, &QTimer::timeout, &loop, [&] {
+    Look();
+    if (worker.isFinished()) loop.quit();
+  });
+  frame.start(kFrameMs);
+  if (atMostMs) QTimer::singleShot(std::max(0, *atMostMs), &loop, &QEventLoop::quit);
+  loop.exec(events);
+}
+
+bool ProgressBox::Report(double share) {
+  done = share;
+  return !stopped;
+}
+
+void ProgressBox::Look() {
+  if (bar) bar->setValue(qRound(done * kSteps));
+  if (!owner->isVisible()) stopped = true;
 }
 
 void ProgressBox::Open() {
@@ -61,7 +94,7 @@ void ProgressBox::Open() {
     layout->addWidget(part);
   }
   QObject::connect(button, &QPushButton::clicked, dialog.get(), &QDialog::reject);
-  QObject::connect(dialog.get(), &QDialog::rejected, dialog.get(), [this] { cancelled = true; });
+  QObject::connect(dialog.get(), &QDialog::rejected, dialog.get(), [this] { stopped = true; });
   dialog->resize(kWidth, 0);
   dialog->show();
 }

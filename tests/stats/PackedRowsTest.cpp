@@ -52,7 +52,7 @@ TEST(PackedRows, ChangesRows) {
 TEST(PackedRows, Reorders) {
   PackedRows rows(2);
   for (const char* text : {"a", "b", "c"}) rows.Append(std::vector<std::string>{text, "1"});
-  rows.Reorder(std::vector<std::size_t>{2, 0, 1});
+  rows.Arrange(rows.Arranged(std::vector<std::size_t>{2, 0, 1}));
   EXPECT_EQ(RowsOf(rows), (Rows{{"c", "1"}, {"a", "1"}, {"b", "1"}}));
 }
 

@@ -82,7 +82,8 @@ class StatisticsFilesTest : public QObject {
   void LeavingAsks_data();
   void LeavingAsks();
   void LeavingSavesFirst();
-  void LeavingGoesOnWithoutAFile();
+  void WithoutAFileTheRowsStay_data();
+  void WithoutAFileTheRowsStay();
   void AFailedSaveKeepsTheScreen();
   void ACancelledSaveKeepsTheScreen();
   void LeavingWithoutAnAnswerStays();
@@ -347,13 +348,30 @@ void StatisticsFilesTest::LeavingSavesFirst() {
   QCOMPARE(chosen.first().first().toInt(), 2);
 }
 
-void StatisticsFilesTest::LeavingGoesOnWithoutAFile() {
+void StatisticsFilesTest::WithoutAFileTheRowsStay_data() {
+  QTest::addColumn<QString>("menu");
+  QTest::addColumn<QString>("command");
+  QTest::newRow("exit") << "File"
+                        << "Exit";
+  QTest::newRow("mode") << "Mode"
+                        << "Scientific Calculator";
+  QTest::newRow("load") << ""
+                        << "";
+}
+
+void StatisticsFilesTest::WithoutAFileTheRowsStay() {
+  QFETCH(QString, menu);
+  QFETCH(QString, command);
   AddTwo();
+  QSignalSpy chosen(one->screen, &ModeScreen::ModeChosen);
   QSignalSpy exited(one->screen, &ModeScreen::ExitChosen);
+  menu.isEmpty() ? one->Press("Load") : one->Command(menu, command);
   AddNextAnswer(std::nullopt);
-  one->Command("File", "Exit");
   one->Answer(QMessageBox::Yes);
-  QCOMPARE(exited.size(), qsizetype{1});
+  QVERIFY(chosen.isEmpty() && exited.isEmpty());
+  QVERIFY2(!one->screen->findChild<QDialog*>(QStringLiteral("LoadFile")), "nothing is loaded");
+  QCOMPARE(one->Rows(), (QStringList{"4 1", "2.5 3"}));
+  QVERIFY(HasUnsavedData());
 }
 
 void StatisticsFilesTest::AFailedSaveKeepsTheScreen() {

@@ -37,6 +37,13 @@ class StatisticsListTest : public QObject {
   void EnterIsOkWhileEditing();
   void AnUnreadableEditLeavesEditingOn();
   void CancelAndEscapeLeaveTheRow();
+  void EscapeAsksBeforeTypedTextIsLost();
+  void CancelPutsTheEditsBack();
+  void OkPutsTheCountBack();
+  void TheFirstNumberTakesThePlaceOfTheZero();
+  void EnterMeansWhatHasTheFocus_data();
+  void EnterMeansWhatHasTheFocus();
+  void ANumberTypedInTheListIsTheNextValue();
   void F2AndADoubleClickEdit();
   void DeleteAsksAndDeletesTheTopmostOnly();
   void TheDeleteKeyAsksToo();
@@ -126,7 +133,9 @@ void StatisticsListTest::SaysWhatIsWrongAndGoesThere_data() {
   QTest::newRow("words") << QStringList{"1", "abc", "1"} << number << "Y";
   QTest::newRow("infinite") << QStringList{"1e999", "1", "1"} << number << "X";
   QTest::newRow("a count with decimals") << QStringList{"1", "1", "1.5"} << integer << "Cnt";
-  QTest::newRow("a large count") << QStringList{"1", "1", "2147483648"} << integer << "Cnt";
+  QTest::newRow("a large count")
+      << QStringList{"1", "1", "2147483648"}
+      << QStringLiteral("Please enter an integer between -2147483648 and 2147483647.") << "Cnt";
 }
 
 void StatisticsListTest::SaysWhatIsWrongAndGoesThere() {
@@ -218,8 +227,10 @@ void StatisticsListTest::EnterIsOkWhileEditing() {
   QTest::keyClicks(one->Edit("X"), QStringLiteral("9"));
   QTest::keyClick(one->Edit("X"), Qt::Key_Return);
   QCOMPARE(one->Rows(), (QStringList{"9 3"}));
-  QTest::keyClick(one->Edit("X"), Qt::Key_Return);
-  QCOMPARE(one->Rows(), (QStringList{"9 3", "9 3"}));
+  // Once more, it means the row in the list, which is edited again and not doubled.
+  QTest::keyClick(one->window->focusWidget(), Qt::Key_Return);
+  QCOMPARE(one->Rows(), (QStringList{"9 3"}));
+  QVERIFY(one->IsShown("Ok"));
 }
 
 void StatisticsListTest::AnUnreadableEditLeavesEditingOn() {
@@ -243,6 +254,7 @@ void StatisticsListTest::CancelAndEscapeLeaveTheRow() {
     one->Type({"5", "5"});
     if (byKey) {
       QTest::keyClick(one->Edit("X"), Qt::Key_Escape);
+      one->Answer(QMessageBox::Yes);
     } else {
       one->Press("Cancel");
     }
@@ -251,6 +263,90 @@ void StatisticsListTest::CancelAndEscapeLeaveTheRow() {
     QVERIFY(one->IsShown("Add") && one->TotalIsShown() && one->Table()->isEnabled());
   }
   QCOMPARE(one->Total(), QStringLiteral("3"));
+}
+
+void StatisticsListTest::EscapeAsksBeforeTypedTextIsLost() {
+  one->Add({"1", "3"});
+  one->SelectRows({0});
+  one->Press("Edit");
+  QTest::keyClicks(one->Edit("X"), QStringLiteral("25"));
+  QTest::keyClick(one->Edit("X"), Qt::Key_Escape);
+  QCOMPARE(one->BoxText(), QStringLiteral("Are you sure you want to discard your changes?"));
+  one->Answer(QMessageBox::No);
+  QVERIFY(one->IsShown("Ok"));
+  QCOMPARE(one->Edit("X")->text(), QStringLiteral("25"));
+  // With nothing typed there is nothing to ask.
+  one->Type({"1", "3"});
+  QTest::keyClick(one->Edit("X"), Qt::Key_Escape);
+  QVERIFY(!one->Box());
+  QVERIFY(one->IsShown("Add"));
+}
+
+void StatisticsListTest::CancelPutsTheEditsBack() {
+  one->Add({"1", "3"});
+  one->Type({"12", "1"});
+  one->SelectRows({0});
+  one->Press("Edit");
+  QCOMPARE(one->Edit("Count")->text(), QStringLiteral("3"));
+  one->Press("Cancel");
+  QCOMPARE(one->Edit("X")->text(), QStringLiteral("12"));
+  QCOMPARE(one->Edit("Count")->text(), QStringLiteral("1"));
+}
+
+void StatisticsListTest::OkPutsTheCountBack() {
+  one->Add({"1", "3"});
+  one->Type({"1", "1"});
+  one->SelectRows({0});
+  one->Press("Edit");
+  one->Type({"9", "4"});
+  one->Press("Ok");
+  QCOMPARE(one->Rows(), (QStringList{"9 4"}));
+  QCOMPARE(one->Edit("Count")->text(), QStringLiteral("1"));
+}
+
+void StatisticsListTest::TheFirstNumberTakesThePlaceOfTheZero() {
+  QCOMPARE(one->Edit("X")->selectedText(), QStringLiteral("0"));
+  QTest::keyClicks(one->window->focusWidget(), QStringLiteral("-3"));
+  QCOMPARE(one->Edit("X")->text(), QStringLiteral("-3"));
+}
+
+void StatisticsListTest::EnterMeansWhatHasTheFocus_data() {
+  QTest::addColumn<QString>("focused");
+  QTest::addColumn<QString>("result");
+  QTest::addColumn<QString>("question");
+  const QString deletes = QStringLiteral("Are you sure you want to delete the selected data?");
+  QTest::newRow("a statistic") << "ΣX"
+                               << "3"
+                               << "no box";
+  QTest::newRow("Delete") << "Delete"
+                          << "" << deletes;
+  QTest::newRow("the result") << "Result"
+                              << ""
+                              << "no box";
+}
+
+void StatisticsListTest::EnterMeansWhatHasTheFocus() {
+  QFETCH(QString, focused);
+  QFETCH(QString, result);
+  QFETCH(QString, question);
+  one->Add({"1", "1"});
+  one->Add({"2", "1"});
+  one->SelectRows({0});
+  auto* const control = one->screen->findChild<QWidget*>(focused);
+  control->setFocus();
+  QTest::keyClick(control, Qt::Key_Return);
+  QCOMPARE(one->Rows(), (QStringList{"2 1", "1 1"}));
+  QCOMPARE(one->Result(), result);
+  QCOMPARE(one->BoxText(), question);
+}
+
+void StatisticsListTest::ANumberTypedInTheListIsTheNextValue() {
+  one->Add({"1", "3"});
+  one->SelectRows({0});
+  one->Table()->setFocus();
+  QTest::keyClicks(one->window->focusWidget(), QStringLiteral("-"));
+  QTest::keyClicks(one->window->focusWidget(), QStringLiteral("4.5"));
+  QCOMPARE(one->Edit("X")->text(), QStringLiteral("-4.5"));
 }
 
 void StatisticsListTest::F2AndADoubleClickEdit() {
@@ -386,10 +482,12 @@ void StatisticsListTest::SortingByMenu() {
   QCOMPARE(one->Rows(), (QStringList{"2 4", "1 5"}));
   one->SelectRows({0});
   one->Press("Edit");
-  one->Command("Edit", "Sort by X");
-  QCOMPARE(one->Rows(), (QStringList{"2 4", "1 5"}));
+  for (const char* text : {"Sort by X", "Sort by Count"}) {
+    QVERIFY(!one->MenuCommand("Edit", text)->isEnabled());
+  }
   one->Press("Ok");
   QCOMPARE(one->Rows(), (QStringList{"2 4", "1 5"}));
+  QVERIFY(one->MenuCommand("Edit", "Sort by X")->isEnabled());
 }
 
 void StatisticsListTest::SelectionStaysInPlaceWhenSorting() {

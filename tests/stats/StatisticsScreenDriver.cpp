@@ -142,14 +142,20 @@ void StatisticsScreenDriver::ChooseFrom(const QString& menuName, const QString& 
   QFAIL(qPrintable(text));
 }
 
-void StatisticsScreenDriver::Command(const QString& menuTitle, const QString& text) {
+QAction* StatisticsScreenDriver::MenuCommand(const QString& menuTitle, const QString& text) const {
   for (const QAction* menu : screen->findChild<QMenuBar*>()->actions()) {
     if (menu->text().remove(u'&') != menuTitle) continue;
     for (QAction* action : menu->menu()->actions()) {
-      if (action->text().remove(u'&') == text) return action->trigger();
+      if (action->text().remove(u'&') == text) return action;
     }
   }
-  QFAIL(qPrintable(text));
+  return nullptr;
+}
+
+void StatisticsScreenDriver::Command(const QString& menuTitle, const QString& text) {
+  QAction* const action = MenuCommand(menuTitle, text);
+  QVERIFY2(action, qPrintable(text));
+  action->trigger();
 }
 
 QByteArray StatisticsScreenDriver::FileBytes(const QString& name) const {

@@ -56,7 +56,9 @@ class StatisticsScreenDriver {
   QMenu* Menu(const QString& name) const { return screen->findChild<QMenu*>(name); }
   QStringList MenuTexts(const QString& name) const;
   void ChooseFrom(const QString& menuName, const QString& text);
-  /// Runs a command of the menu bar.
+  /// A command of the menu bar, or null.
+  QAction* MenuCommand(const QString& menuTitle, const QString& text) const;
+  /// Runs it.
   void Command(const QString& menuTitle, const QString& text);
 
   /// A file in a folder of its own that goes with the object.

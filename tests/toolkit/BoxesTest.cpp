@@ -1,10 +1,14 @@
 // Boxes that ask and boxes that show progress.
 
+#include <QEventLoop>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <atomic>
+#include <new>
+#include <thread>
 
 #include "toolkit/MessageBox.h"
 #include "toolkit/ProgressBox.h"
@@ -26,10 +30,21 @@ class BoxesTest : public QObject {
   void OnlyYesAndNoAreOffered();
   void ShortWorkShowsNoProgress();
   void LongWorkShowsItsProgress();
+  void WorkMayTakeAMoment();
   void ProgressCanBeCancelled();
   void ClosedWindowStopsTheWork();
+  void WhatTheWorkThrowsArrives();
+  // The last one: it ends the program.
+  void AnEndingProgramStopsTheWork();
 
  private:
+  /// Runs work that does not end by itself; true: it was told to stop.
+  bool RunUntilStopped() {
+    return RunWithProgress(window.get(), "Working...", [](auto watcher) {
+      while (watcher(0.5)) std::this_thread::yield();
+      return true;
+    });
+  }
   QMessageBox* Ask() {
     AskEitherWay(window.get(), L"Well?", [this](bool yes) { answers << yes; });
     return window->findChild<QMessageBox*>();
@@ -76,42 +91,68 @@ void BoxesTest::OnlyYesAndNoAreOffered() {
 }
 
 void BoxesTest::ShortWorkShowsNoProgress() {
-  ProgressBox box(window.get(), "Working...");
-  QVERIFY(box.Report(0.5));
+  ProgressBox::patienceMs = 100000;
+  QCOMPARE(RunWithProgress(window.get(), "Working...", [](auto watcher) { return watcher(0.5); }),
+           true);
   QVERIFY(!Progress());
 }
 
 void BoxesTest::LongWorkShowsItsProgress() {
   ProgressBox::patienceMs = 0;
-  {
-    ProgressBox box(window.get(), "Working...");
-    QVERIFY(box.Report(0.25));
-    QVERIFY(Progress() && Progress()->isVisible());
-    QVERIFY(Progress()->isModal());
-    QCOMPARE(Progress()->findChild<QProgressBar*>()->value(), 250);
-    QTest::qSleep(20);
-    QVERIFY(box.Report(0.75));
-    QCOMPARE(Progress()->findChild<QProgressBar*>()->value(), 750);
-  }
+  std::atomic<bool> seen = false;
+  QTimer look;
+  connect(&look, &QTimer::timeout, this, [&] {
+    if (!Progress() || Progress()->findChild<QProgressBar*>()->value() != 250) return;
+    seen = Progress()->isVisible() && Progress()->isModal();
+  });
+  look.start(1);
+  const bool wanted = RunWithProgress(window.get(), "Working...", [&](auto watcher) {
+    while (!seen && watcher(0.25)) std::this_thread::yield();
+    return watcher(0.75);
+  });
+  QVERIFY(wanted && seen);
   QVERIFY(!Progress());
+}
+
+void BoxesTest::WorkMayTakeAMoment() {
+  ProgressBox::patienceMs = 60;
+  std::atomic<bool> seen = false;
+  QTimer look;
+  connect(&look, &QTimer::timeout, this, [&] { seen = seen || Progress(); });
+  look.start(1);
+  const bool wanted = RunWithProgress(window.get(), "Working...", [&](auto watcher) {
+    while (!seen && watcher(0.0)) std::this_thread::yield();
+    return watcher(0.0);
+  });
+  QVERIFY(wanted && seen);
 }
 
 void BoxesTest::ProgressCanBeCancelled() {
   ProgressBox::patienceMs = 0;
-  ProgressBox box(window.get(), "Working...");
-  QVERIFY(box.Report(0.1));
   QTimer::singleShot(0, this, [this] { Progress()->findChild<QPushButton*>("Cancel")->click(); });
-  QTest::qSleep(20);
-  QVERIFY(!box.Report(0.2));
+  QVERIFY(RunUntilStopped());
 }
 
 void BoxesTest::ClosedWindowStopsTheWork() {
   ProgressBox::patienceMs = 0;
-  ProgressBox box(window.get(), "Working...");
-  QVERIFY(box.Report(0.1));
-  window->hide();
-  QTest::qSleep(20);
-  QVERIFY(!box.Report(0.2));
+  QTimer::singleShot(0, window.get(), &QWidget::hide);
+  QVERIFY(RunUntilStopped());
+}
+
+void BoxesTest::AnEndingProgramStopsTheWork() {
+  ProgressBox::patienceMs = 0;
+  QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });
+  QEventLoop program;
+  bool stopped = false;
+  QTimer::singleShot(0, &program, [&] { stopped = RunUntilStopped(); });
+  program.exec();
+  QVERIFY(stopped);
+}
+
+void BoxesTest::WhatTheWorkThrowsArrives() {
+  QVERIFY_EXCEPTION_THROWN(
+      RunWithProgress(window.get(), "Working...", [](auto) -> bool { throw std::bad_alloc(); }),
+      std::bad_alloc);
 }
 
 }  // namespace vexa
