@@ -58,7 +58,9 @@ TEST_F(StatisticsTest, SaysWhatIsWrongWithAnEdit) {
       {{L"1", L"1e999", L"x"}, L"Please enter a number.", 1},
       {{L"1", L"2", L"1.5"}, L"Please enter an integer.", 2},
       {{L"1", L"2", L""}, L"Please enter an integer.", 2},
-      {{L"1", L"2", L"2147483648"}, L"Please enter an integer.", 2},
+      {{L"1", L"2", L"2147483648"},
+       L"Please enter an integer between -2147483648 and 2147483647.",
+       2},
   };
   for (const auto& c : cases) {
     const EntryFault fault = statistics.Add(c.texts);
