@@ -1,23 +1,25 @@
-// Any bytes as the settings file: what can be read of it is written back and read again, and the
-// calculator starts, calculates and ends on it, whatever its counts and codes are.
+// Any bytes as the settings file, of this version or an earlier one: what can be read of it is
+// written back and read again, and the calculator starts, calculates and ends on it, whatever its
+// counts and codes are.
 
 #include "FuzzInput.h"
 #include "app/Calculator.h"
-#include "display/IniText.h"
 #include "display/MemorySettingsStore.h"
+#include "files/OldSettings.h"
+#include "files/SettingsJson.h"
 
 using namespace vexa;
 using namespace vexa::fuzz;
 
 namespace {
 
-MemorySettingsStore Store(const IniValues& values) {
+MemorySettingsStore Store(const SettingsValues& values) {
   MemorySettingsStore store;
-  for (const auto& [key, text] : values) {
-    if (const auto number = ParseIniInteger(text)) {
-      store.WriteSettingInt(key.first, key.second, *number);
+  for (const auto& [name, value] : values) {
+    if (const int* const number = std::get_if<int>(&value)) {
+      store.WriteSettingInt(name.first, name.second, *number);
     } else {
-      store.WriteSettingString(key.first, key.second, text);
+      store.WriteSettingString(name.first, name.second, std::get<std::wstring>(value));
     }
   }
   return store;
@@ -27,10 +29,11 @@ MemorySettingsStore Store(const IniValues& values) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string bytes(data, data + size);
-  const std::optional<IniValues> values = ParseIni(bytes);
+  auto values = ParseSettings(bytes);
+  if (!values) values = ParseOldSettings(bytes);
   if (!values) return 0;
-  const std::optional<IniValues> again = ParseIni(FormatIni(*values));
-  Promise(again == values, "a settings file holds what was written");
+  Promise(ParseSettings(FormatSettings(*values)) == values,
+          "a settings file holds what was written");
 
   MemorySettingsStore store = Store(*values);
   Calculator calculator(store);

@@ -1,5 +1,4 @@
-# The rules of settings file, keys and window, and everything that needs the toolkit.
-vexa_rule_test(store_rules_test display/IniTextTest.cpp display/Utf8Test.cpp)
+# The rules of keys and window, and everything that needs the toolkit.
 vexa_rule_test(toolkit_rules_test
   toolkit/KeyTest.cpp
   toolkit/LineTextTest.cpp
@@ -7,7 +6,6 @@ vexa_rule_test(toolkit_rules_test
   toolkit/TypedSearchTest.cpp)
 vexa_rule_test(app_window_rules_test app/CalculatorKeypadTest.cpp app/WindowPlaceTest.cpp)
 
-vexa_screen_test(file_settings_store_test display/FileSettingsStoreTest.cpp)
 vexa_screen_test(edit_line_test toolkit/EditLineTest.cpp)
 vexa_screen_test(boxes_test toolkit/BoxesTest.cpp)
 vexa_screen_test(file_dialogs_test toolkit/FileDialogsTest.cpp)
@@ -28,6 +26,7 @@ add_test(NAME touch_size_test.small_screen COMMAND touch_size_test)
 set_tests_properties(touch_size_test.small_screen PROPERTIES ENVIRONMENT
   QT_QPA_PLATFORM=offscreen:configfile=${CMAKE_CURRENT_SOURCE_DIR}/support/SmallScreen.json)
 vexa_screen_test(main_frame_test app/MainFrameTest.cpp)
+vexa_screen_test(settings_saver_test app/SettingsSaverTest.cpp)
 vexa_screen_test(single_instance_test app/SingleInstanceTest.cpp)
 
 vexa_screen_test(process_test app/ProcessTest.cpp)

@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include "app/MainFrame.h"
+#include "app/SettingsSaver.h"
 #include "app/SingleInstance.h"
 #include "app/TerminationSignals.h"
 #include "display/FileSettingsStore.h"
@@ -40,7 +41,9 @@ int Application::Run(int argc, char** argv) {
   TerminationSignals termination;
   FileSettingsStore store;
   store.SetSettingsKey(settings::kSettingsKey);
+  SettingsSaver saver(store);
   MainFrame frame(store);
+  QObject::connect(&saver, &SettingsSaver::NoticeRaised, &frame, &MainFrame::ShowNotice);
   QObject::connect(&frame, &MainFrame::Closed, &application, [] { QCoreApplication::exit(0); });
   QObject::connect(&termination, &TerminationSignals::TerminationRequested, &frame,
                    &MainFrame::Exit);

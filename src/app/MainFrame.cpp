@@ -15,6 +15,7 @@
 #include "stats/OneVarScreen.h"
 #include "stats/TwoVarScreen.h"
 #include "toolkit/ModeScreen.h"
+#include "toolkit/NoticeBar.h"
 
 namespace vexa {
 namespace {
@@ -40,9 +41,12 @@ constexpr std::array<ModeScreen* (*)(SettingsStore&, QWidget*), kModes.size()> k
 }  // namespace
 
 MainFrame::MainFrame(SettingsStore& settingsStore)
-    : store(settingsStore), modeCode(Read(store, settings::kMode)) {
+    : store(settingsStore),
+      modeCode(Read(store, settings::kMode)),
+      notices(new NoticeBar(this)) {
   setObjectName(QStringLiteral("VexaMain"));
   setWindowTitle(FromWide(settings::kSettingsKey));
+  connect(notices, &NoticeBar::HeightChanged, this, &MainFrame::LayOut);
   RestorePlace();
 }
 
@@ -67,7 +71,7 @@ void MainFrame::SwitchMode(int code) {
 void MainFrame::CreateScreen(Mode mode) {
   auto& screen = screens[IndexOf(mode)];
   screen.reset(kNewScreen[IndexOf(mode)](store, this));
-  screen->setGeometry(rect());
+  LayOut();
   // Queued: the screen's own menu is still at work when it says what was chosen.
   connect(screen.get(), &ModeScreen::ModeChosen, this, &MainFrame::SwitchMode,
           Qt::QueuedConnection);
@@ -104,9 +108,19 @@ void MainFrame::ShowFirstScreen() {
 }
 
 void MainFrame::resizeEvent(QResizeEvent*) {
+  LayOut();
+}
+
+void MainFrame::LayOut() {
+  const int strip = notices->isHidden() ? 0 : notices->heightForWidth(width());
+  notices->setGeometry(0, height() - strip, width(), strip);
   for (auto& screen : screens) {
-    if (screen) screen->setGeometry(rect());
+    if (screen) screen->setGeometry(rect().adjusted(0, 0, 0, -strip));
   }
+}
+
+void MainFrame::ShowNotice(const QString& sentence) {
+  notices->Add(sentence);
 }
 
 void MainFrame::closeEvent(QCloseEvent* event) {

@@ -10,6 +10,7 @@
 namespace vexa {
 
 class ModeScreen;
+class NoticeBar;
 
 /// The program's window: owns the screen of the current mode and switches between the modes.
 class MainFrame : public QWidget {
@@ -25,6 +26,8 @@ class MainFrame : public QWidget {
   void SwitchMode(int code);
   /// Hides the frame, then closes it.
   void Exit();
+  /// Shows `sentence` in a strip below the screen until the user dismisses it.
+  void ShowNotice(const QString& sentence);
   /// Brings the window to the front, or the pop-up window that waits for an answer.
   void BringToFront();
 
@@ -39,12 +42,14 @@ class MainFrame : public QWidget {
  private:
   void ShowFirstScreen();
   void CreateScreen(Mode mode);
+  void LayOut();
   void RestorePlace();
   void SavePlace();
 
   SettingsStore& store;
   int modeCode;
   bool firstScreenAsked = false;
+  NoticeBar* notices;
   std::array<std::unique_ptr<ModeScreen>, kModes.size()> screens;
 };
 

@@ -1,29 +1,24 @@
 #pragma once
 
-#include <QString>
+#include <filesystem>
+#include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
-#include "display/MemorySettingsStore.h"
 #include "display/SettingsStore.h"
-
-class QSettings;
+#include "files/SettingsFile.h"
+#include "files/UserFolders.h"
 
 namespace vexa {
 
-/// The store in a file of the user's own: <folder>/<key>/settings.ini.
-///
-/// Changes reach the file together, soon after the event loop gets control and when the store is
-/// destroyed, through a temporary file that replaces the old one: whatever interrupts the program,
-/// the file holds the old or the new content. A file that is damaged, above kLargestFile or
-/// unreadable is renamed to a free name beside it and an empty store takes its place; where that
-/// fails too, and where the folder cannot be written, values are kept for this run only.
+/// The store in a file of the user's own: <folder>/<key>/settings.json. Changes reach the file by
+/// Flush and when the store is destroyed.
 class FileSettingsStore : public SettingsStore {
  public:
-  /// No store of this program grows to this size in bytes.
-  static constexpr qint64 kLargestFile = qint64{64} * 1024 * 1024;
-
-  /// `folder` holds the key's folder; it is created when it is missing.
-  explicit FileSettingsStore(QString folder = UserFolder());
+  /// `folder` holds the key's folder; it is created when it is missing. An empty one: values last
+  /// as long as the store.
+  explicit FileSettingsStore(std::filesystem::path settingsFolder = UserSettingsFolder());
   ~FileSettingsStore() override;
 
   void SetSettingsKey(std::wstring_view key) override;
@@ -35,21 +30,20 @@ class FileSettingsStore : public SettingsStore {
   bool WriteSettingString(std::wstring_view section, std::wstring_view entry,
                           std::wstring_view text) override;
 
-  /// Brings all changes into the file now. False: the file could not be written.
+  /// Brings all changes into the file now. False: it could not be written, and they are kept for
+  /// the next call.
   bool Flush();
-  /// The file of the key that was set.
-  const QString& FileName() const { return fileName; }
-  /// The folder for the settings of this user's programs.
-  static QString UserFolder();
+  /// What the user should be told since the last call, each sentence once.
+  std::vector<std::wstring> TakeNotices();
+  /// Runs after each change, for a program that brings it into the file soon.
+  std::function<void()> changed = [] {};
 
  private:
-  void Open();
+  bool Set(std::wstring_view section, std::wstring_view entry, SettingValue value);
 
-  QString folder;
-  QString fileName;
-  /// Null where no file may be touched: the session's values take its place.
-  std::unique_ptr<QSettings> file;
-  MemorySettingsStore session;
+  std::filesystem::path folder;
+  /// Null until the key is set.
+  std::unique_ptr<SettingsFile> file;
 };
 
 }  // namespace vexa

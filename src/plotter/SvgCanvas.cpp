@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "display/Utf8.h"
+#include "files/Utf8.h"
 #include "plotter/LineBox.h"
 
 namespace vexa {

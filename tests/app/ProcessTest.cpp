@@ -13,7 +13,7 @@
 #include <memory>
 #include <vector>
 
-#include "display/IniText.h"
+#include "files/SettingsJson.h"
 
 namespace vexa {
 namespace {
@@ -65,13 +65,13 @@ class ProcessTest : public QObject {
   void WaitUntilIdle(const QProcess& process);
   void End(QProcess* process, int signalNumber);
   QString StoreName() const {
-    return dir->filePath(QStringLiteral("config/Vexa Calculator/settings.ini"));
+    return dir->filePath(QStringLiteral("config/Vexa Calculator/settings.json"));
   }
   void PutStore(const QByteArray& bytes) const;
-  IniValues Stored() const {
+  SettingsValues Stored() const {
     const QByteArray bytes = Bytes(StoreName());
-    return ParseIni({bytes.constData(), static_cast<std::size_t>(bytes.size())})
-        .value_or(IniValues{{{L"damaged", L""}, L""}});
+    return ParseSettings({bytes.constData(), static_cast<std::size_t>(bytes.size())})
+        .value_or(SettingsValues{{{L"damaged", L""}, L""}});
   }
 
   std::unique_ptr<QTemporaryDir> dir;
@@ -186,45 +186,43 @@ void ProcessTest::TerminationSavesEverything_data() {
 
 void ProcessTest::TerminationSavesEverything() {
   QFETCH(int, signalNumber);
-  PutStore(
-      "[Config]\nAngle Type=2\n[History]\nCalHistoryCount=25\nCalHistory1=1+1\n"
-      "[Macro7]\nName=kept\n");
+  PutStore(R"({"Config":{"Angle Type":2},"History":{"CalHistoryCount":25,"CalHistory1":"1+1"},)"
+           R"("Macro7":{"Name":"kept"}})");
   QProcess* process = Start();
   WaitUntilIdle(*process);
   End(process, signalNumber);
   QCOMPARE(process->exitStatus(), QProcess::NormalExit);
   QCOMPARE(process->exitCode(), 0);
 
-  IniValues stored = Stored();
-  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> expected[] = {
-      {L"Config", L"Mode", L"1"},
-      {L"Config", L"Angle Type", L"2"},
-      {L"Config", L"Base Type", L"1"},
-      {L"Config", L"Display Type", L"3"},
-      {L"Config", L"Precision", L"5"},
-      {L"Convert", L"ClassPos", L"-1"},
-      {L"Convert", L"InputTypePos", L"-1"},
-      {L"Convert", L"OutputTypePos", L"-1"},
-      {L"History", L"CalHistoryCount", L"10"},
-      {L"History", L"CalHistory1", L"1+1"},
-      {L"Macro7", L"Name", L"kept"},
+  SettingsValues stored = Stored();
+  const SettingsValues expected = {
+      {{L"Config", L"Mode"}, 1},
+      {{L"Config", L"Angle Type"}, 2},
+      {{L"Config", L"Base Type"}, 1},
+      {{L"Config", L"Display Type"}, 3},
+      {{L"Config", L"Precision"}, 5},
+      {{L"Convert", L"ClassPos"}, -1},
+      {{L"Convert", L"InputTypePos"}, -1},
+      {{L"Convert", L"OutputTypePos"}, -1},
+      {{L"History", L"CalHistoryCount"}, 10},
+      {{L"History", L"CalHistory1"}, L"1+1"},
+      {{L"Macro7", L"Name"}, L"kept"},
   };
-  for (const auto& [section, entry, text] : expected) {
-    const std::wstring value = stored[{section, entry}];
-    QVERIFY2(value == text, qPrintable(QString::fromWCharArray(entry)));
+  for (const auto& [name, value] : expected) {
+    QVERIFY2(stored[name] == value, qPrintable(QString::fromStdWString(name.second)));
   }
   QVERIFY((stored.contains({L"Window", L"Width"})));
 }
 
 void ProcessTest::TheStoreOfAnEarlierRunIsFound() {
-  PutStore("[Config]\nMode=9\n");
+  PutStore(R"({"Config":{"Mode":9}})");
   for (int run = 0; run < 2; ++run) {
     QProcess* process = Start();
     WaitUntilIdle(*process);
     End(process, SIGTERM);
     QCOMPARE(process->exitCode(), 0);
-    const IniValues stored = Stored();
-    QVERIFY((stored.at({L"Config", L"Mode"}) == L"9"));
+    const SettingsValues stored = Stored();
+    QVERIFY((stored.at({L"Config", L"Mode"}) == SettingValue(9)));
     // The screen of another mode leaves the calculator's settings alone.
     QVERIFY(!(stored.contains({L"Config", L"Angle Type"})));
   }
@@ -246,7 +244,8 @@ void ProcessTest::AKillBlocksNothing() {
 }
 
 void ProcessTest::AKillWhileSavingLeavesOldOrNew() {
-  const QByteArray old = "[Config]\nMode=1\n[Kept]\nText=\"" + QByteArray(200000, 'x') + "\"\n";
+  const QByteArray old =
+      R"({"Config":{"Mode":1},"Kept":{"Text":")" + QByteArray(200000, 'x') + R"("}})";
   // What a run that is not disturbed makes of it.
   PutStore(old);
   QProcess* undisturbed = Start();
@@ -256,7 +255,7 @@ void ProcessTest::AKillWhileSavingLeavesOldOrNew() {
   End(undisturbed, SIGTERM);
   const qint64 endingUs = clock.nsecsElapsed() / 1000;
   const QByteArray saved = Bytes(StoreName());
-  QVERIFY(saved != old && saved.contains("Angle%20Type"));
+  QVERIFY(saved != old && saved.contains("Angle Type"));
 
   int oldOnes = 0;
   // Kills spread over the time that ending takes here.
@@ -284,8 +283,8 @@ void ProcessTest::ADamagedStoreIsKept() {
   WaitUntilIdle(*process);
   End(process, SIGTERM);
   QCOMPARE(process->exitCode(), 0);
-  QVERIFY((Stored().at({L"Config", L"Mode"}) == L"1"));
-  QCOMPARE(Bytes(QFileInfo(StoreName()).path() + QStringLiteral("/settings.damaged-1.ini")),
+  QVERIFY((Stored().at({L"Config", L"Mode"}) == SettingValue(1)));
+  QCOMPARE(Bytes(QFileInfo(StoreName()).path() + QStringLiteral("/settings.damaged-1.json")),
            damaged);
 }
 

@@ -75,7 +75,7 @@ void ConverterRoundTripTest::init() {
 
 void ConverterRoundTripTest::Start() {
   End();
-  store = std::make_unique<FileSettingsStore>(folder->path());
+  store = std::make_unique<FileSettingsStore>(folder->path().toStdString());
   store->SetSettingsKey(settings::kSettingsKey);
   calculator = std::make_unique<CalculatorScreen>(*store, nullptr);
   line = calculator->findChild<EditLine*>();
@@ -165,9 +165,9 @@ void ConverterRoundTripTest::UnitsAreRememberedAcrossARestart() {
   test::ChooseRow(converter.outputUnit, 12);
   converter.Press(qPrintable(caption));
   Start();
-  QFile file(store->FileName());
+  QFile file(folder->filePath(QStringLiteral("Vexa Calculator/settings.json")));
   QVERIFY(file.open(QIODevice::ReadOnly));
-  QVERIFY(file.readAll().contains("ClassPos=13"));
+  QVERIFY(file.readAll().contains("\"ClassPos\": 13"));
   OpenConverter();
   QCOMPARE(converter.category->currentText(), QStringLiteral("14. Volume"));
   QCOMPARE(converter.inputUnit->currentText(), QStringLiteral("Gallons (UK)"));

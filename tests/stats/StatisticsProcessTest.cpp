@@ -61,9 +61,9 @@ void StatisticsProcessTest::init() {
   QVERIFY(QDir().mkpath(dir->filePath("config/Vexa Calculator")));
   QVERIFY(QDir().mkpath(dir->filePath("runtime")));
   QCOMPARE(chmod(QFile::encodeName(dir->filePath("runtime")).constData(), 0700), 0);
-  QFile store(dir->filePath("config/Vexa Calculator/settings.ini"));
+  QFile store(dir->filePath("config/Vexa Calculator/settings.json"));
   QVERIFY(store.open(QIODevice::WriteOnly));
-  store.write("[Config]\nMode=3\n");
+  store.write(R"({"Config":{"Mode":3}})");
 }
 
 void StatisticsProcessTest::cleanup() {
@@ -95,8 +95,8 @@ void StatisticsProcessTest::ExpectGoodEnd() {
   QCOMPARE(process->exitStatus(), QProcess::NormalExit);
   QCOMPARE(process->exitCode(), 0);
   // The mode and the window's place are written at the end.
-  const QByteArray store = Bytes("config/Vexa Calculator/settings.ini");
-  QVERIFY2(store.contains("Mode=3") && store.contains("Width="), store.constData());
+  const QByteArray store = Bytes("config/Vexa Calculator/settings.json");
+  QVERIFY2(store.contains("\"Mode\": 3") && store.contains("\"Width\""), store.constData());
 }
 
 void StatisticsProcessTest::AnsweringNoEndsWithoutSaving() {

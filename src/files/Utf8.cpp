@@ -1,4 +1,4 @@
-#include "display/Utf8.h"
+#include "files/Utf8.h"
 
 #include <cstddef>
 #include <cstdint>
