@@ -1,6 +1,5 @@
 #include "macros/MacroEditorDialog.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 
 #include "display/WideText.h"
@@ -8,6 +7,7 @@
 #include "toolkit/EditLine.h"
 #include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/MessageBox.h"
+#include "toolkit/TouchComboBox.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
@@ -36,8 +36,7 @@ void MacroEditorDialog::BuildFields() {
   name->setMinimumHeight(kTouchHeight);
   new KeyboardOnFocus(name);
   AddFieldRow(L"Macro Name", name);
-  type = new QComboBox(this);
-  type->setMinimumHeight(kTouchHeight);
+  type = new TouchComboBox(this);
   for (const MacroType& macroType : kMacroTypes) type->addItem(FromWide(macroType.storedText));
   AddFieldRow(L"Argument Type", type);
   formula = new EditLine(this, MacroEditor::kMaxFormulaLength);
@@ -123,7 +122,7 @@ void MacroEditorDialog::RecallVariable() {
 
 void MacroEditorDialog::InsertVariable(int index) {
   const EditText before = formula->State();
-  const TextChange change = InsertText(before, MemoryVariables(store).Text(index));
+  const TextChange change = InsertText(before, MemoryVariables(store).FormulaText(index));
   // A number of which only the front has room would be another number.
   const std::wstring_view tooLong =
       MacroEditor::CheckFormulaLength(Apply(before, change).text.size());

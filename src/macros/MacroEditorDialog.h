@@ -5,12 +5,12 @@
 #include "macros/MacroEditor.h"
 #include "toolkit/ListEditorDialog.h"
 
-class QComboBox;
 class QLineEdit;
 
 namespace vexa {
 
 class EditLine;
+class TouchComboBox;
 
 /// Creates, edits and deletes macros. MacroEditor decides.
 class MacroEditorDialog : public ListEditorDialog {
@@ -43,7 +43,7 @@ class MacroEditorDialog : public ListEditorDialog {
   SettingsStore& store;
   MacroEditor editor;
   QLineEdit* name = nullptr;
-  QComboBox* type = nullptr;
+  TouchComboBox* type = nullptr;
   EditLine* formula = nullptr;
 };
 

@@ -28,6 +28,7 @@ class MacroEditorSaveTest : public QObject {
   void EnterSaves();
   void TheFormulaHoldsAHundredAndFiftyCharacters();
   void MemInsertsIntoTheFormula();
+  void MemInsertsPlainNumbers();
   void MemInsertsWholeNumbersOnly();
   void MemDismissedChangesNothing();
   void TheKeyboardFollowsTheFocus();
@@ -181,6 +182,20 @@ void MacroEditorSaveTest::MemInsertsIntoTheFormula() {
   QCOMPARE(editor->formula->toPlainText(), QStringLiteral("x*2.5"));
   QCOMPARE(editor->dialog->focusWidget(), editor->formula);
   editor->ExpectEditingState();
+}
+
+void MacroEditorSaveTest::MemInsertsPlainNumbers() {
+  // As the unit converter stores it.
+  Write(editor->store, settings::kMemoryVariable, 4, L"1,234,500.25");
+  editor->Open();
+  editor->Press("Edit");
+  editor->formula->setPlainText(QStringLiteral("x*"));
+  editor->formula->moveCursor(QTextCursor::End);
+  Recall(4);
+  QCOMPARE(editor->formula->toPlainText(), QStringLiteral("x*1234500.25"));
+  editor->Press("Save");
+  QVERIFY(!test::OpenBox());
+  editor->ExpectViewState();
 }
 
 void MacroEditorSaveTest::MemInsertsWholeNumbersOnly() {
