@@ -18,7 +18,7 @@ constexpr int kGap = 6;
 constexpr int kWidth = 300;
 /// What the window's own frame may take of the screen's height.
 constexpr int kFrameHeight = 28;
-/// Where the screen is too narrow for the desktop's font, texts shrink down to this, in pixels.
+/// Where the screen is too small for the desktop's font, texts shrink down to this, in pixels.
 constexpr int kSmallestText = 8;
 /// The room beside a button's caption.
 constexpr int kButtonPadding = 6;
@@ -58,12 +58,14 @@ void Dialog::SetOpeningHeight(int height) {
 void Dialog::showEvent(QShowEvent* event) {
   QFont text = font();
   int pixels = QFontInfo(text).pixelSize();
-  while (pixels > kSmallestText && content->totalMinimumSize().width() > Room().width()) {
+  const QSize room = Room();
+  while (pixels > kSmallestText &&
+         content->totalMinimumSize().boundedTo(room) != content->totalMinimumSize()) {
     text.setPixelSize(--pixels);
     setFont(text);
     content->activate();
   }
-  resize(size().boundedTo(Room()));
+  resize(size().boundedTo(room));
   QDialog::showEvent(event);
 }
 
