@@ -140,7 +140,10 @@ void CalculatorScreen::ConvertUnits() {
   connect(dialog, &QDialog::finished, this, [this, dialog](int outcome) {
     const UnitConverter& converter = dialog->Converter();
     calculator.TakeFromConverter(converter.Positions(), converter.Memory());
-    if (outcome == QDialog::Accepted) InsertIntoLine(converter.ResultText());
+    // Without a result there is nothing to insert, which would take what is selected.
+    if (outcome == QDialog::Accepted && converter.HasResult()) {
+      InsertIntoLine(converter.ExpressionText());
+    }
   });
   OpenDialog(dialog);
 }

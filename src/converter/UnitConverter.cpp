@@ -5,7 +5,6 @@
 
 #include "converter/UnitConversion.h"
 #include "display/FormatResult.h"
-#include "engine/NumberText.h"
 #include "toolkit/NumberBox.h"
 
 namespace vexa {
@@ -19,6 +18,11 @@ constexpr int kFirstCategory = 0;
 
 bool IsCategory(int code) {
   return code >= 0 && code < kCategoryCount;
+}
+
+std::wstring WithoutGrouping(std::wstring text) {
+  std::erase(text, L',');
+  return text;
 }
 
 /// `position` where the list has an entry there, else -1.
@@ -101,19 +105,16 @@ void UnitConverter::EnterText(std::wstring_view text) {
 }
 
 void UnitConverter::MemoryRecall() {
-  std::wstring text = Formatted(memory);
-  std::erase(text, L',');
-  EnterText(text);
-}
-
-void UnitConverter::RecallVariable(std::wstring_view variableText) {
-  // Grouped texts are read whole: the result text that "Store MemVar" stores is one.
-  const double value = ReadNumberBox(variableText).value_or(TextToDouble(variableText));
-  EnterText(Formatted(value));
+  EnterText(WithoutGrouping(Formatted(memory)));
 }
 
 std::wstring_view UnitConverter::Accept() const {
-  return HasResult() ? std::wstring_view{} : kCannotAccept;
+  if (!inputNotice.empty()) return inputNotice;
+  return lastError.empty() ? std::wstring_view{} : kCannotAccept;
+}
+
+std::wstring UnitConverter::ExpressionText() const {
+  return HasResult() ? WithoutGrouping(resultText) : std::wstring{};
 }
 
 /// Fills the unit lists from scratch; nothing is selected in them.
@@ -138,9 +139,6 @@ void UnitConverter::LoadCategory(int category) {
 void UnitConverter::ShowUnits(int input) {
   selection.input = InList(input, inputUnits);
   selection.output = InList(0, outputUnits);
-  // Even if the text is no number: a position of the previous category means nothing here.
-  positions.input = input;
-  positions.output = 0;
   Convert();
 }
 
@@ -151,19 +149,18 @@ bool UnitConverter::HasSelection() const {
 }
 
 void UnitConverter::Convert() {
+  lastError.clear();
   inputNotice.clear();
-  if (!HasSelection()) {
-    lastError.clear();
-    positions.input = positions.output = -1;
-    return;
-  }
+  const bool chosen = selection.category >= 0 && selection.input >= 0;
+  const bool single = layout == ConverterLayout::SingleList;
+  positions.input = chosen ? selection.input : -1;
+  positions.output = !chosen ? -1 : single ? 0 : selection.output;
+  if (!HasSelection()) return;
   const std::optional<double> value = ReadNumberBox(inputText);
   if (!value) {
-    // The previous outcome stays as a whole, so that a shown overflow still cannot be accepted.
     inputNotice = kEnterNumber;
     return;
   }
-  lastError.clear();
   if (layout == ConverterLayout::Factor) {
     ConvertUnits(*value);
   } else {
@@ -177,8 +174,6 @@ void UnitConverter::ConvertUnits(double value) {
   };
   result = ConvertByFactors(value, factorOf(selection.input), factorOf(selection.output));
   outputLine = Formatted(result);
-  positions.input = selection.input;
-  positions.output = selection.output;
 }
 
 void UnitConverter::ConvertWhole(double value) {
@@ -191,8 +186,6 @@ void UnitConverter::ConvertWhole(double value) {
   outputBlock.append(L" ").append(units.input).append(kEqualsLine);
   outputBlock.append(Formatted(result)).append(L" ").append(units.output);
   if (!lastError.empty()) outputBlock = lastError;
-  positions.input = chosen;
-  positions.output = 0;
 }
 
 /// `value` as this screen shows numbers; becomes the result text.

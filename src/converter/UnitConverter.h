@@ -77,16 +77,17 @@ class UnitConverter {
   void MemoryClear() { memory = 0.0; }
   /// Puts the memory, without grouping, into the input field and converts it.
   void MemoryRecall();
-  /// Puts the number that a memory variable holds into the input field and converts it.
-  void RecallVariable(std::wstring_view variableText);
+  /// Puts the number of a memory variable into the input field and converts it.
+  void RecallVariable(double value) { EnterText(Formatted(value)); }
 
-  /// The "OK" command: empty when the result can be handed back, else the sentence that keeps the
-  /// screen open.
+  /// The "OK" command: empty when the screen closes, with a result or because no units are
+  /// selected, else the sentence that keeps it open.
   std::wstring_view Accept() const;
 
   /// What the three lists show.
   const ConverterPositions& Selection() const { return selection; }
-  /// What the calculator takes back: the category, and the units of the last conversion.
+  /// What the calculator takes back: what is selected, whether or not the text could be converted.
+  /// Without an input unit there is no output unit either; a whole conversion has the first.
   const ConverterPositions& Positions() const { return positions; }
   /// What the unit lists hold.
   const std::vector<std::wstring>& InputUnits() const { return inputUnits; }
@@ -94,19 +95,23 @@ class UnitConverter {
   ConverterLayout Layout() const { return layout; }
   const std::wstring& InputText() const { return inputText; }
   /// What stands quietly beside the input field: empty, or why its text was not converted. The
-  /// previous result stays.
+  /// previous result stays shown, but is none to work with.
   const std::wstring& InputNotice() const { return inputNotice; }
   const std::wstring& OutputLine() const { return outputLine; }
   const std::wstring& OutputBlock() const { return outputBlock; }
   double Result() const { return result; }
   double Memory() const { return memory; }
-  /// The last number formatted here, after a conversion the result: what "OK" hands back and
-  /// "Store MemVar" stores.
+  /// The last number formatted here, after a conversion the result: what "Store MemVar" stores.
   const std::wstring& ResultText() const { return resultText; }
+  /// The result as "OK" hands it to an expression, which reads no grouping; empty without a result.
+  std::wstring ExpressionText() const;
   /// Empty, or the overflow sentence.
   const std::wstring& LastError() const { return lastError; }
-  /// Whether the lines of the "MEM" menu that need a result are shown.
-  bool HasResult() const { return lastError.empty(); }
+  /// Whether the units and the text that are shown have a result. Otherwise the lines of the "MEM"
+  /// menu that need one are left out.
+  bool HasResult() const { return HasSelection() && inputNotice.empty() && lastError.empty(); }
+  /// Whether what is shown in the result's place is left from before.
+  bool IsResultStale() const { return !HasResult() && lastError.empty(); }
 
  private:
   void LoadCategory(int category);

@@ -37,7 +37,7 @@ constexpr int kMargin = 4;
 constexpr int kGap = 4;
 constexpr int kButtonHeight = kTouchHeight;
 /// Room for three rows that can be read.
-constexpr int kLeastOutputHeight = 48;
+constexpr int kLeastBlockHeight = 48;
 /// The text of the input stands out, and twenty digits have room on the smallest screen.
 constexpr int kInputText = 16;
 
@@ -59,7 +59,7 @@ QVBoxLayout* AddGroup(QVBoxLayout* content, const QString& name, QLayout* headin
   auto* const group = new QWidget(content->parentWidget());
   SetNames(group, name);
   auto* const column = new QVBoxLayout(group);
-  column->setContentsMargins(0, kGap, 0, 0);
+  column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kGap);
   column->addLayout(heading);
   content->addWidget(group, stretch);
@@ -99,8 +99,7 @@ UnitConverterDialog::UnitConverterDialog(SettingsStore& settingsStore,
   BuildOutput();
   SetOpeningHeight(kOpeningHeight);
   Refresh();
-  input->selectAll();
-  input->setFocus();
+  FocusInput();
 }
 
 void UnitConverterDialog::BuildMenus() {
@@ -131,6 +130,7 @@ void UnitConverterDialog::BuildCategory() {
   category->setMaxVisibleItems(kCategoryCount);
   Content()->addWidget(category);
   connect(category, &QComboBox::currentIndexChanged, this, &UnitConverterDialog::ChangeCategory);
+  TypeAfterChoice(category);
 }
 
 void UnitConverterDialog::BuildButtons() {
@@ -162,6 +162,7 @@ void UnitConverterDialog::BuildInput() {
   column->addWidget(inputUnit);
   connect(input, &QLineEdit::textChanged, this, &UnitConverterDialog::EnterText);
   connect(inputUnit, &QComboBox::currentIndexChanged, this, &UnitConverterDialog::ChooseInput);
+  TypeAfterChoice(inputUnit);
 }
 
 void UnitConverterDialog::BuildOutput() {
@@ -172,12 +173,25 @@ void UnitConverterDialog::BuildOutput() {
   heading->addWidget(NewCaption(QStringLiteral("Output"), this));
   QVBoxLayout* const column = AddGroup(Content(), QStringLiteral("Output"), heading, 1);
   for (ResultLine* const shown : {outputLine, outputBlock}) {
-    shown->setMinimumHeight(kLeastOutputHeight);
-    theme::ShowOnAmber(shown);
     column->addWidget(shown, 1);
   }
+  outputLine->setMinimumHeight(kTouchHeight);
+  outputBlock->setMinimumHeight(kLeastBlockHeight);
   column->addWidget(outputUnit);
   connect(outputUnit, &QComboBox::currentIndexChanged, this, &UnitConverterDialog::ChooseOutput);
+  TypeAfterChoice(outputUnit);
+}
+
+void UnitConverterDialog::TypeAfterChoice(const TouchComboBox* units) {
+  connect(units, &QComboBox::activated, this, [this, units] {
+    // With arrow keys one may want to go on in the closed list.
+    if (units->WasChosenInOpenList()) FocusInput();
+  });
+}
+
+void UnitConverterDialog::FocusInput() {
+  input->setFocus();
+  input->selectAll();
 }
 
 void UnitConverterDialog::Refresh() {
@@ -199,6 +213,9 @@ void UnitConverterDialog::ShowOutput() {
   notice->setText(FromWide(converter.InputNotice()));
   outputLine->ShowText(FromWide(converter.OutputLine()));
   outputBlock->ShowText(FromWide(converter.OutputBlock()));
+  for (ResultLine* const shown : {outputLine, outputBlock}) {
+    theme::ShowOnAmber(shown, converter.IsResultStale());
+  }
 }
 
 void UnitConverterDialog::PressKey(int index) {
@@ -237,7 +254,7 @@ void UnitConverterDialog::EnterText(const QString& text) {
 void UnitConverterDialog::accept() {
   const std::wstring_view sentence = converter.Accept();
   if (sentence.empty()) return Dialog::accept();
-  ShowErrorBox(this, std::wstring(sentence), [this] { input->setFocus(); });
+  ShowErrorBox(this, std::wstring(sentence), [this] { FocusInput(); });
 }
 
 void UnitConverterDialog::OpenMemoryMenu() {
@@ -270,7 +287,7 @@ void UnitConverterDialog::RunMemoryCommand(int command) {
 void UnitConverterDialog::RecallVariable() {
   auto* const dialog = new MemoryVariableDialog(store, this);
   connect(dialog, &MemoryVariableDialog::Recalled, this, [this](int index) {
-    converter.RecallVariable(MemoryVariables(store).Text(index));
+    converter.RecallVariable(MemoryVariables(store).Value(index));
     Refresh();
   });
   OpenOverInput(dialog);

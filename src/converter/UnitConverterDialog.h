@@ -25,7 +25,7 @@ class UnitConverterDialog : public Dialog {
 
   const UnitConverter& Converter() const { return converter; }
 
-  /// Closes the dialog, unless the result is out of range.
+  /// Closes the dialog, unless the text is no number or the result is out of range.
   void accept() override;
 
  private:
@@ -34,6 +34,9 @@ class UnitConverterDialog : public Dialog {
   void BuildButtons();
   void BuildInput();
   void BuildOutput();
+  /// After a choice in the open list of `units` what is typed is the value.
+  void TypeAfterChoice(const TouchComboBox* units);
+  void FocusInput();
   /// Shows what the converter says, without converting again.
   void Refresh();
   void ShowOutput();

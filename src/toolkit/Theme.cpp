@@ -101,10 +101,11 @@ void KeepReadable(QWidget* widget) {
   widget->setPalette(colours);
 }
 
-void ShowOnAmber(QWidget* field) {
+void ShowOnAmber(QWidget* field, bool dimmed) {
+  const QColor amber(253, 221, 138);
   QPalette colours = field->palette();
-  colours.setColor(QPalette::Base, QColor(253, 221, 138));
-  colours.setColor(QPalette::Text, Qt::black);
+  colours.setColor(QPalette::Base, amber);
+  colours.setColor(QPalette::Text, dimmed ? Mixed(Qt::black, amber) : QColor(Qt::black));
   field->setPalette(colours);
 }
 

@@ -34,8 +34,9 @@ void ShowOnLightBlue(QLabel* label);
 /// something before it can be changed. What is selected looks the same.
 void KeepReadable(QWidget* widget);
 
-/// Draws a field's text black on the amber of results, in light and dark alike.
-void ShowOnAmber(QWidget* field);
+/// Draws a field's text black on the amber of results, in light and dark alike; `dimmed`: as one
+/// that is left from before, which can still be read.
+void ShowOnAmber(QWidget* field, bool dimmed = false);
 /// Draws `label` as a quiet notice of something that is not right yet.
 void ShowAsNotice(QWidget* label);
 

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QWheelEvent>
 
 #include "toolkit/SearchedList.h"
 #include "toolkit/TouchSize.h"
@@ -18,6 +19,8 @@ constexpr int kTextMargin = 4;
 TouchComboBox::TouchComboBox(QWidget* parent) : QComboBox(parent), list(new SearchedList(this)) {
   setView(list);
   setMinimumHeight(kTouchHeight);
+  // By itself the wheel would take the focus first.
+  setFocusPolicy(Qt::StrongFocus);
   // Long entries never make a dialog wider than a small screen.
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(1);
@@ -36,6 +39,12 @@ void TouchComboBox::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QComboBox::keyPressEvent(event);
+}
+
+void TouchComboBox::wheelEvent(QWheelEvent* event) {
+  chosenInOpenList = false;
+  if (!hasFocus()) return event->ignore();
+  QComboBox::wheelEvent(event);
 }
 
 void TouchComboBox::paintEvent(QPaintEvent*) {

@@ -26,6 +26,9 @@ class ConverterRoundTripTest : public QObject {
   void TheAnswerIsHandedIn_data();
   void TheAnswerIsHandedIn();
   void TheResultGoesToTheCaret();
+  void TheResultCanBeCalculatedWith_data();
+  void TheResultCanBeCalculatedWith();
+  void WithoutAResultOkInsertsNothing();
   void CancelInsertsNothing();
   void MemoryIsShared();
   void UnitsAreRememberedAcrossARestart_data();
@@ -129,6 +132,48 @@ void ConverterRoundTripTest::TheResultGoesToTheCaret() {
   QTRY_VERIFY(line->hasFocus());
   Press("=");
   QCOMPARE(Result(), QStringLiteral("1.003"));
+}
+
+void ConverterRoundTripTest::TheResultCanBeCalculatedWith_data() {
+  QTest::addColumn<QByteArray>("value");
+  QTest::addColumn<QString>("inserted");
+  QTest::addColumn<QString>("result");
+  QTest::newRow("thousands") << QByteArray("1.2345") << QStringLiteral("1234.5")
+                             << QStringLiteral("1,234.5");
+  QTest::newRow("millions") << QByteArray("12345.6789") << QStringLiteral("12345678.9")
+                            << QStringLiteral("12,345,678.9");
+  QTest::newRow("exponent") << QByteArray("1e20") << QStringLiteral("1.000000000000e+023")
+                            << QStringLiteral("1.00000e+023");
+}
+
+void ConverterRoundTripTest::TheResultCanBeCalculatedWith() {
+  QFETCH(QByteArray, value);
+  QFETCH(QString, inserted);
+  QFETCH(QString, result);
+  OpenConverter();
+  test::ChooseRow(converter.category, 6);
+  test::ChooseRow(converter.inputUnit, 14);
+  test::ChooseRow(converter.outputUnit, 16);
+  converter.Type(value.constData());
+  converter.Press("OK");
+  QCOMPARE(line->toPlainText(), inserted);
+  Press("=");
+  QCOMPARE(Result(), result);
+}
+
+void ConverterRoundTripTest::WithoutAResultOkInsertsNothing() {
+  calculator.reset();
+  Write(*store, settings::kClassPos, 6);
+  Write(*store, settings::kInputTypePos, 99);
+  Start();
+  QTest::keyClicks(line, QStringLiteral("1+2"));
+  line->selectAll();
+  OpenConverter();
+  QCOMPARE(converter.inputUnit->currentIndex(), -1);
+  converter.Press("OK");
+  QVERIFY(!QApplication::activeModalWidget());
+  QCOMPARE(line->toPlainText(), QStringLiteral("1+2"));
+  QCOMPARE(line->textCursor().selectedText(), QStringLiteral("1+2"));
 }
 
 void ConverterRoundTripTest::CancelInsertsNothing() {

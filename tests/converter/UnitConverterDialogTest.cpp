@@ -45,6 +45,7 @@ class UnitConverterDialogTest : public QObject {
   void TheSingleListLayoutShowsABlock();
   void NoNumberIsANoticeOnly_data();
   void NoNumberIsANoticeOnly();
+  void OkIsRefusedWhileTheFieldHoldsNoNumber();
   void TheNoticeMovesNothing();
   void OkIsRefusedWhileOutOfRange();
   void AnOverflowingDivisionIsOutOfRange();
@@ -184,9 +185,25 @@ void UnitConverterDialogTest::NoNumberIsANoticeOnly() {
   QCOMPARE(screen.notice->text(), QStringLiteral("Please enter a number."));
   QCOMPARE(screen.line->toPlainText(), QStringLiteral("3,000"));
   QCOMPARE(QApplication::activeModalWidget(), screen.dialog.data());
+  QCOMPARE(CountPixels(screen.line, Qt::black), 0);
   screen.Type("4");
   QVERIFY(screen.notice->text().isEmpty());
   QCOMPARE(screen.line->toPlainText(), QStringLiteral("4,000"));
+  QVERIFY(CountPixels(screen.line, Qt::black) > 0);
+}
+
+void UnitConverterDialogTest::OkIsRefusedWhileTheFieldHoldsNoNumber() {
+  screen.Open(kKilometersToMeters, L"3");
+  screen.Type("3-");
+  QSignalSpy closed(screen.dialog, &QDialog::finished);
+  screen.Press("OK");
+  QCOMPARE(test::ShownBox(), test::Error("Please enter a number."));
+  test::AnswerBox();
+  QTRY_VERIFY(screen.input->hasFocus());
+  QTest::keyClicks(screen.input, QStringLiteral("4"));
+  QCOMPARE(screen.input->text(), QStringLiteral("4"));
+  QTest::keyClick(screen.input, Qt::Key_Return);
+  QCOMPARE(closed.count(), 1);
 }
 
 void UnitConverterDialogTest::TheNoticeMovesNothing() {

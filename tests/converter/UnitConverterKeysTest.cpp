@@ -15,7 +15,8 @@ constexpr int kTemperature = 11;
 constexpr int kUserDefine = 14;
 constexpr ConverterPositions kKilometersToMeters{kLength, 14, 16};
 constexpr int kFingerHeight = 30;
-constexpr QSize kSmallestScreen(240, 320);
+/// The smallest screen less the window's title bar.
+constexpr QSize kSmallestRoom(240, 292);
 
 QString ClipboardText() {
   return QGuiApplication::clipboard()->text();
@@ -34,6 +35,9 @@ class UnitConverterKeysTest : public QObject {
   void TypingFindsUnits();
   void TypingFindsACategoryByItsName();
   void TypingFindsUnitsInTheOpenList();
+  void AfterAChoiceInTheOpenListTheFieldHasTheFocus_data();
+  void AfterAChoiceInTheOpenListTheFieldHasTheFocus();
+  void TheWheelTurnsFocusedListsOnly();
   void TabFollowsTheLayout_data();
   void TabFollowsTheLayout();
   void EnterIsOk_data();
@@ -95,6 +99,56 @@ void UnitConverterKeysTest::TypingFindsUnitsInTheOpenList() {
   QTest::keyClick(screen.outputUnit->view(), Qt::Key_Return);
   QCOMPARE(screen.outputUnit->currentText(), QStringLiteral("Inches"));
   QCOMPARE(screen.line->toPlainText(), QStringLiteral("39,370.0787401575"));
+}
+
+void UnitConverterKeysTest::AfterAChoiceInTheOpenListTheFieldHasTheFocus_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<int>("row");
+  for (const char* name : {"Unit Converter", "Input unit", "Output unit"}) {
+    QTest::addRow("%s", name) << QString(name) << 3;
+  }
+  QTest::newRow("the same again") << QStringLiteral("Input unit") << kKilometersToMeters.input;
+}
+
+void UnitConverterKeysTest::AfterAChoiceInTheOpenListTheFieldHasTheFocus() {
+  QFETCH(QString, name);
+  QFETCH(int, row);
+  screen.Open(kKilometersToMeters, L"12");
+  auto* const list = screen.dialog->findChild<TouchComboBox*>(name);
+  test::ChooseRow(list, row);
+  QTRY_VERIFY(screen.input->hasFocus());
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("07"));
+  QCOMPARE(list->currentIndex(), row);
+  QCOMPARE(screen.input->text(), QStringLiteral("07"));
+  // A list that is left without a choice, or chosen from by keys while closed, keeps the focus.
+  list->setFocus();
+  list->showPopup();
+  QTRY_VERIFY(list->view()->isVisible());
+  QTest::keyClick(list->view(), Qt::Key_Escape);
+  QTRY_VERIFY(!list->view()->isVisible());
+  QVERIFY(list->hasFocus());
+  QTest::keyClick(list, Qt::Key_Down);
+  QVERIFY(list->hasFocus());
+}
+
+void UnitConverterKeysTest::TheWheelTurnsFocusedListsOnly() {
+  screen.Open(kKilometersToMeters, L"12");
+  const auto turn = [](QWidget* list) {
+    const QPointF place = list->rect().center();
+    QWheelEvent wheel(place, list->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(list, &wheel);
+  };
+  for (TouchComboBox* const list : {screen.category, screen.inputUnit, screen.outputUnit}) {
+    const int before = list->currentIndex();
+    turn(list);
+    QCOMPARE(list->currentIndex(), before);
+    QVERIFY(screen.input->hasFocus());
+  }
+  screen.inputUnit->setFocus();
+  turn(screen.inputUnit);
+  QCOMPARE(screen.inputUnit->currentIndex(), kKilometersToMeters.input + 1);
+  QVERIFY(screen.inputUnit->hasFocus());
 }
 
 void UnitConverterKeysTest::TabFollowsTheLayout_data() {
@@ -244,8 +298,8 @@ void UnitConverterKeysTest::FitsTheSmallestScreen_data() {
 void UnitConverterKeysTest::FitsTheSmallestScreen() {
   QFETCH(int, category);
   screen.Open({category, 0, 0});
-  screen.dialog->resize(kSmallestScreen);
-  QCOMPARE(screen.dialog->size(), kSmallestScreen);
+  screen.dialog->resize(kSmallestRoom);
+  QCOMPARE(screen.dialog->size(), kSmallestRoom);
   for (const QWidget* const widget : screen.dialog->findChildren<QWidget*>()) {
     if (!widget->isVisible() || widget->isWindow()) continue;
     const QRect place(widget->mapTo(screen.dialog, QPoint()), widget->size());

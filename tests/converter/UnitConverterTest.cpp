@@ -56,6 +56,8 @@ TEST(UnitConverter, ConvertsAtEveryKeystroke) {
     EXPECT_EQ(opened.converter.OutputLine(), c.line) << Narrow(c.text);
     EXPECT_EQ(opened.converter.ResultText(), c.line) << Narrow(c.text);
     EXPECT_EQ(opened.converter.InputNotice(), c.notice) << Narrow(c.text);
+    EXPECT_EQ(opened.converter.HasResult(), c.notice.empty()) << Narrow(c.text);
+    EXPECT_EQ(opened.converter.IsResultStale(), !c.notice.empty()) << Narrow(c.text);
   }
 }
 
@@ -69,14 +71,18 @@ TEST(UnitConverter, ConvertsAtEverySelection) {
   EXPECT_EQ(opened.converter.Positions(), (ConverterPositions{6, 14, 14}));
 }
 
-TEST(UnitConverter, PositionsAreThoseOfTheLastConversion) {
+TEST(UnitConverter, UnitsChosenWhileTheTextIsNoNumberAreKept) {
   OpenConverter opened(kMetersToKilometers, L"1500");
   opened.converter.EnterText(L"x");
   opened.converter.ChooseInput(3);
-  EXPECT_EQ(opened.converter.Selection(), (ConverterPositions{6, 3, 14}));
-  EXPECT_EQ(opened.converter.Positions(), kMetersToKilometers);
-  opened.converter.EnterText(L"2");
-  EXPECT_EQ(opened.converter.Positions(), (ConverterPositions{6, 3, 14}));
+  opened.converter.ChooseOutput(5);
+  EXPECT_EQ(opened.converter.Selection(), (ConverterPositions{6, 3, 5}));
+  EXPECT_EQ(opened.converter.Positions(), (ConverterPositions{6, 3, 5}));
+  EXPECT_EQ(opened.converter.OutputLine(), L"1.5");
+
+  opened.converter.ChangeCategory(kCelsiusToFahrenheit.category);
+  opened.converter.ChooseInput(4);
+  EXPECT_EQ(opened.converter.Positions(), (ConverterPositions{11, 4, 0}));
 }
 
 TEST(UnitConverter, NumbersAreShownWithTwelveDecimals) {
@@ -172,25 +178,47 @@ TEST(UnitConverter, OverflowIsShownAndRefused) {
     EXPECT_EQ(c.line ? converter.OutputLine() : converter.OutputBlock(), kOverflow);
     EXPECT_EQ(converter.Accept(), L"Converting value is error");
     EXPECT_EQ(converter.InputNotice(), L"");
+    EXPECT_FALSE(converter.IsResultStale()) << "the sentence is about what is shown";
+    EXPECT_EQ(converter.ExpressionText(), L"");
     converter.EnterText(L"1");
     EXPECT_EQ(converter.LastError(), L"");
     EXPECT_EQ(converter.Accept(), L"");
   }
 }
 
-TEST(UnitConverter, AShownOverflowStaysRefusedWhileTheTextIsNoNumber) {
+TEST(UnitConverter, AnOverflowEndsWithItsText) {
   OpenConverter opened({6, 14, 22}, L"1e300");
   opened.converter.EnterText(L"1e300x");
   EXPECT_EQ(opened.converter.OutputLine(), kOverflow);
-  EXPECT_EQ(opened.converter.LastError(), kOverflow);
-  EXPECT_EQ(opened.converter.Accept(), L"Converting value is error");
+  EXPECT_TRUE(opened.converter.IsResultStale());
+  EXPECT_EQ(opened.converter.LastError(), L"");
+  EXPECT_EQ(opened.converter.Accept(), kNotice);
 }
 
-TEST(UnitConverter, AcceptsThePreviousResultWhileTheTextIsNoNumber) {
+TEST(UnitConverter, APreviousResultIsNotAccepted) {
   OpenConverter opened(kMetersToKilometers, L"1500");
   opened.converter.EnterText(L"15-");
+  EXPECT_EQ(opened.converter.OutputLine(), L"1.5");
+  EXPECT_EQ(opened.converter.Accept(), kNotice);
+  EXPECT_EQ(opened.converter.ExpressionText(), L"");
+  opened.converter.EnterText(L"15");
   EXPECT_EQ(opened.converter.Accept(), L"");
-  EXPECT_EQ(opened.converter.ResultText(), L"1.5");
+}
+
+TEST(UnitConverter, ExpressionsGetTheResultWithoutGrouping) {
+  const std::pair<std::wstring_view, std::wstring_view> cases[] = {
+      {L"1.2345", L"1234.5"},
+      {L"1e6", L"1000000000"},
+      {L"-1234567.125", L"-1234567125"},
+      {L"1e30", L"1.000000000000e+033"},
+      {L"0.001", L"1"}};
+  for (const auto& [text, expected] : cases) {
+    const OpenConverter opened({6, 14, 16}, text);
+    EXPECT_EQ(opened.converter.ExpressionText(), expected);
+  }
+  const OpenConverter block({14, 0, 0}, L"1000");
+  EXPECT_EQ(block.converter.ExpressionText(), L"1500");
+  EXPECT_EQ(block.converter.ResultText(), L"1,500") << "what is shown stays grouped";
 }
 
 TEST(UnitConverter, TinyValuesUnderflowToZero) {
@@ -215,8 +243,14 @@ TEST(ConverterMemory, MenuByState) {
             (Captions{L"Memory +", L"Memory -", L"Memory Recall", L"Memory Clear", L"",
                       L"ReCall MemVar", L"Store MemVar"}));
   opened.converter.EnterText(L"1e300");
-  EXPECT_EQ(MenuOf(opened.converter),
-            (Captions{L"Memory Recall", L"Memory Clear", L"", L"ReCall MemVar"}));
+  const Captions withoutResult{L"Memory Recall", L"Memory Clear", L"", L"ReCall MemVar"};
+  EXPECT_EQ(MenuOf(opened.converter), withoutResult);
+  opened.converter.EnterText(L"1");
+  EXPECT_EQ(MenuOf(opened.converter).size(), 7u);
+  opened.converter.EnterText(L"x");
+  EXPECT_EQ(MenuOf(opened.converter), withoutResult);
+  EXPECT_EQ(MenuOf(OpenConverter({6, -1, 0}, L"1").converter), withoutResult);
+  EXPECT_EQ(MenuOf(OpenConverter({6, 0, -1}, L"1").converter), withoutResult);
 }
 
 TEST(ConverterMemory, PlusAndMinus) {
@@ -248,30 +282,31 @@ TEST(ConverterMemory, RecallOfAnOverflowedMemory) {
   EXPECT_EQ(opened.converter.InputText(), kOverflow);
   EXPECT_EQ(opened.converter.InputNotice(), kNotice);
   EXPECT_EQ(opened.converter.OutputLine(), L"1.5");
-  EXPECT_EQ(opened.converter.Accept(), L"Converting value is error");
+  EXPECT_EQ(opened.converter.LastError(), L"");
+  EXPECT_EQ(opened.converter.Accept(), kNotice);
 }
 
 TEST(ConverterMemory, RecallsAVariable) {
   const struct {
-    std::wstring_view variable;
+    double variable;
     std::wstring_view input;
     std::wstring_view line;
+    std::wstring_view notice;
   } cases[] = {
-      {L"0", L"0", L"0"},
-      {L"2500", L"2,500", L"2.5"},
-      {L"1,234,500", L"1,234,500", L"1,234.5"},
-      {L"1.5e+013", L"1.500000000000e+013", L"15,000,000,000"},
-      {L"-0.25", L"-0.25", L"-0.00025"},
-      {L"12abc", L"12", L"0.012"},
-      {L"no number", L"0", L"0"},
-      {L"", L"0", L"0"},
+      {0, L"0", L"0", L""},
+      {2500, L"2,500", L"2.5", L""},
+      {1234500, L"1,234,500", L"1,234.5", L""},
+      {1.5e+013, L"1.500000000000e+013", L"15,000,000,000", L""},
+      {-0.25, L"-0.25", L"-0.00025", L""},
+      {std::numeric_limits<double>::infinity(), kOverflow, L"0.001", kNotice},
   };
   for (const auto& c : cases) {
     OpenConverter opened(kMetersToKilometers, L"1");
     opened.converter.RecallVariable(c.variable);
-    EXPECT_EQ(opened.converter.InputText(), c.input) << Narrow(c.variable);
-    EXPECT_EQ(opened.converter.OutputLine(), c.line) << Narrow(c.variable);
-    EXPECT_EQ(opened.converter.InputNotice(), L"") << Narrow(c.variable);
+    EXPECT_EQ(opened.converter.InputText(), c.input) << c.variable;
+    EXPECT_EQ(opened.converter.OutputLine(), c.line) << c.variable;
+    EXPECT_EQ(opened.converter.InputNotice(), c.notice) << c.variable;
+    EXPECT_EQ(opened.converter.LastError(), L"") << c.variable;
   }
 }
 
