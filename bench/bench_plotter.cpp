@@ -14,7 +14,7 @@
 #include "plotter/GraphBitmap.h"
 #include "plotter/GraphFunction.h"
 #include "plotter/GraphImage.h"
-#include "plotter/XFormula.h"
+#include "plotter/SampleGraph.h"
 
 using namespace vexa;
 using namespace vexa::bench;
@@ -39,9 +39,9 @@ GraphData Graph(std::initializer_list<std::wstring> functions) {
     GraphFunction function;
     const std::wstring sentence = ParseGraphFunction(graph.functions.size(), text, function);
     if (!sentence.empty()) Refuse(text, sentence);
-    CalcEngine engine;
-    XFormula(function.tokens).Evaluate(1.0, engine);
-    if (!engine.errorText.empty()) Refuse(text, engine.errorText);
+    FormulaValues outcome;
+    function.program.Evaluate(std::array{1.0}, graph.angleType, outcome);
+    if (outcome.errors[0]) Refuse(text, outcome.Sentence(0));
     graph.functions.push_back(function);
   }
   return graph;

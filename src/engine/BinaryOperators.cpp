@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <initializer_list>
+#include <string_view>
 #include <utility>
 
 #include "engine/ToInt32.h"
@@ -18,49 +19,58 @@ int ShiftCount(double right) {
   return ToInt32(right) & 255;
 }
 
-BinaryOutcome Multiply(double left, double right) {
-  return {left * right};
-}
-BinaryOutcome Divide(double left, double right) {
-  if (right == 0.0) return {.exceeded = L"Division"};
-  return {left / right};
-}
-BinaryOutcome Remainder(double left, double right) {
-  if (right == 0.0) return {.exceeded = L"Remainder"};
-  return {std::fmod(left, right)};
-}
-BinaryOutcome ShiftLeft(double left, double right) {
+double ShiftedLeft(double left, double right) {
   const int count = ShiftCount(right);
-  if (count >= kIntegerBits) return {0.0};
+  if (count >= kIntegerBits) return 0.0;
   const std::uint32_t bits = static_cast<std::uint32_t>(ToInt32(left)) << count;
-  return {static_cast<double>(static_cast<std::int32_t>(bits))};
-}
-// Shifting by zero is refused; meant.
-BinaryOutcome ShiftRight(double left, double right) {
-  if (right == 0.0) return {.exceeded = L">>"};
-  return {static_cast<double>(ToInt32(left) >> std::min(ShiftCount(right), kIntegerBits - 1))};
-}
-BinaryOutcome Add(double left, double right) {
-  return {left + right};
-}
-BinaryOutcome Subtract(double left, double right) {
-  return {left - right};
-}
-BinaryOutcome And(double left, double right) {
-  return {static_cast<double>(ToInt32(left) & ToInt32(right))};
-}
-BinaryOutcome Or(double left, double right) {
-  return {static_cast<double>(ToInt32(left) | ToInt32(right))};
-}
-BinaryOutcome Xor(double left, double right) {
-  return {static_cast<double>(ToInt32(left) ^ ToInt32(right))};
-}
-BinaryOutcome Xnor(double left, double right) {
-  return {static_cast<double>(~(ToInt32(left) ^ ToInt32(right)))};
+  return static_cast<double>(static_cast<std::int32_t>(bits));
 }
 
+double ShiftedRight(double left, double right) {
+  return static_cast<double>(ToInt32(left) >> std::min(ShiftCount(right), kIntegerBits - 1));
+}
+
+template <typename Value>
+constexpr Operation Binary(Value value) {
+  return MakeOperation(true, {}, value);
+}
+
+/// An operation that `name` calls and that refuses 0 on the right.
+template <typename Value>
+constexpr Operation RefusingZero(std::wstring_view name, Value value) {
+  return MakeOperation(true, {EngineError{ErrorCode::LimitExceeded, name}}, value,
+                       [](double, double right) { return right == 0.0; });
+}
+
+constexpr Operation kMultiply = Binary([](double left, double right) { return left * right; });
+constexpr Operation kDivide =
+    RefusingZero(L"Division", [](double left, double right) { return left / right; });
+constexpr Operation kRemainder =
+    RefusingZero(L"Remainder", [](double left, double right) { return std::fmod(left, right); });
+constexpr Operation kShiftLeft =
+    Binary([](double left, double right) { return ShiftedLeft(left, right); });
+// Shifting by zero is refused; meant.
+constexpr Operation kShiftRight =
+    RefusingZero(L">>", [](double left, double right) { return ShiftedRight(left, right); });
+constexpr Operation kAdd = Binary([](double left, double right) { return left + right; });
+constexpr Operation kSubtract = Binary([](double left, double right) { return left - right; });
+
+/// An operation on the bits of the operands as 32-bit integers.
+template <typename Bits>
+constexpr Operation Bitwise(Bits) {
+  return Binary([](double left, double right) {
+    return static_cast<double>(Bits{}(ToInt32(left), ToInt32(right)));
+  });
+}
+
+using Int = std::int32_t;
+constexpr Operation kAnd = Bitwise([](Int left, Int right) { return left & right; });
+constexpr Operation kOr = Bitwise([](Int left, Int right) { return left | right; });
+constexpr Operation kXor = Bitwise([](Int left, Int right) { return left ^ right; });
+constexpr Operation kXnor = Bitwise([](Int left, Int right) { return ~(left ^ right); });
+
 constexpr OperatorPass MakePass(
-    std::initializer_list<std::pair<char, BinaryOperation>> operations) {
+    std::initializer_list<std::pair<char, const Operation*>> operations) {
   OperatorPass pass{};
   for (const auto& [op, operation] : operations) pass[static_cast<std::size_t>(op)] = operation;
   return pass;
@@ -68,12 +78,15 @@ constexpr OperatorPass MakePass(
 
 }  // namespace
 
-constexpr OperatorPass kDecimalProducts = MakePass(
-    {{'*', Multiply}, {'/', Divide}, {'%', Remainder}, {'<', ShiftLeft}, {'>', ShiftRight}});
-constexpr OperatorPass kDecimalSums = MakePass({{'+', Add}, {'-', Subtract}});
+constexpr OperatorPass kDecimalProducts = MakePass({{'*', &kMultiply},
+                                                    {'/', &kDivide},
+                                                    {'%', &kRemainder},
+                                                    {'<', &kShiftLeft},
+                                                    {'>', &kShiftRight}});
+constexpr OperatorPass kDecimalSums = MakePass({{'+', &kAdd}, {'-', &kSubtract}});
 constexpr OperatorPass kBaseProducts =
-    MakePass({{'*', Multiply}, {'/', Divide}, {'<', ShiftLeft}, {'>', ShiftRight}});
-constexpr OperatorPass kBaseSums =
-    MakePass({{'+', Add}, {'-', Subtract}, {'a', And}, {'o', Or}, {'x', Xor}, {'y', Xnor}});
+    MakePass({{'*', &kMultiply}, {'/', &kDivide}, {'<', &kShiftLeft}, {'>', &kShiftRight}});
+constexpr OperatorPass kBaseSums = MakePass(
+    {{'+', &kAdd}, {'-', &kSubtract}, {'a', &kAnd}, {'o', &kOr}, {'x', &kXor}, {'y', &kXnor}});
 
 }  // namespace vexa

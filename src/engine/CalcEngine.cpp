@@ -5,14 +5,34 @@
 
 #include "engine/AsciiCase.h"
 #include "engine/Dialects.h"
+#include "engine/Reduction.h"
 #include "engine/SyntaxRules.h"
 
 namespace vexa {
 namespace {
 
-/// Records that do not fit together.
-constexpr ReductionStep kExpressionFailure{.run = RunFailure,
-                                           .code = static_cast<int>(ErrorCode::Expression)};
+/// Does each step at once, on the values of the engine's records.
+class RecordSteps : public StepTaker {
+ public:
+  explicit RecordSteps(CalcEngine& calcEngine) : engine(calcEngine) {}
+
+  bool Take(const ReductionStep& step) override {
+    double& left = engine.tokens[step.left].value;
+    const double right = engine.tokens[step.right].value;
+    const EngineError* const error = step.operation->Run(left, right, engine.angleMode);
+    if (error) engine.ReportError(*error);
+    return !error;
+  }
+  void Fail(const EngineError& error) override { engine.ReportError(error); }
+  void Finish(int index) override {
+    const double value = engine.tokens[static_cast<std::size_t>(index)].value;
+    if (!std::isfinite(value)) return engine.ReportError(kOutOfRange);
+    engine.result = value;
+  }
+
+ private:
+  CalcEngine& engine;
+};
 
 }  // namespace
 
@@ -20,7 +40,7 @@ void CalcEngine::EvaluateExpression(std::wstring_view expression) {
   Clear();
   result = 0.0;
   if (expression.empty()) return ReportError(ErrorCode::NullExpression);
-  const std::wstring lower = ToLowerAscii(expression);
+  ToLowerAscii(expression, lower);
   if (baseMode == BaseType::Dec) {
     TokenizeDecimal(lower);
     if (errorFlag != 1) CheckSyntax(SyntaxRules::Decimal, *this);
@@ -28,15 +48,13 @@ void CalcEngine::EvaluateExpression(std::wstring_view expression) {
     Tokenize(lower, ExpressionDialect(baseMode), *this);
     if (errorFlag != 1) CheckSyntax(SyntaxRules::Base, *this);
   }
-  if (errorFlag == 1) return;
-  Reduce();
-  RunPlan();
+  if (errorFlag != 1) Reduce();
 }
 
 void CalcEngine::LoadTokens(std::span<const Token> records) {
+  ClearRecords();
   const std::size_t count = std::min(records.size(), std::size_t{kMaxTokens + 1});
   std::copy_n(records.begin(), count, tokens.begin());
-  ClearRecordsFrom(count);
   tokenCount = static_cast<int>(count);
 }
 
@@ -44,18 +62,8 @@ void CalcEngine::EvaluateTokens() {
   errorFlag = 0;
   errorText.clear();
   result = 0.0;
-  // The record behind the last one stands in for missing operands.
-  At(tokenCount) = {};
-  if (!plan.Fits(Records(), baseMode)) {
-    CheckSyntax(SyntaxRules::Decimal, *this);
-    if (errorFlag == 1) return;
-    Reduce();
-  }
-  RunPlan();
-}
-
-std::span<const Token> CalcEngine::Records() const {
-  return {tokens.data(), static_cast<std::size_t>(tokenCount)};
+  CheckSyntax(SyntaxRules::Decimal, *this);
+  if (errorFlag != 1) Reduce();
 }
 
 void CalcEngine::TokenizeDecimal(std::wstring_view expression) {
@@ -63,104 +71,10 @@ void CalcEngine::TokenizeDecimal(std::wstring_view expression) {
 }
 
 void CalcEngine::Reduce() {
-  plan.Begin(Records(), baseMode);
-  pendingFunctionClose = 0;
-  for (int i = 0; i < tokenCount && !plan.Failed(); ++i) {
-    if (At(i).op != ')') continue;
-    int j = i - 1;
-    while (j >= 0 && At(j).op != '(') --j;
-    if (j < 0) return plan.Fail(kExpressionFailure);
-    if (j > 0 && At(j - 1).op == 'F') pendingFunctionClose = i;
-    ReduceRange(j, i);
-    if (pendingFunctionClose != 0) {
-      ApplyFunctions(j - 1, i);
-      pendingFunctionClose = 0;
-    }
-    At(j).op = 0;
-    At(i).op = 0;
-  }
-  ReduceRange(0, tokenCount);
-  ExtractResult();
-}
-
-void CalcEngine::ReduceRange(int lo, int hi) {
-  if (baseMode == BaseType::Dec) {
-    ReduceDecimalRange(lo, hi);
-  } else {
-    ReduceBaseRange(lo, hi);
-  }
-}
-
-void CalcEngine::ExtractResult() {
-  const auto isLive = [](const Token& token) { return token.isOperand == 1; };
-  const auto records = Records();
-  const auto first = std::find_if(records.begin(), records.end(), isLive);
-  if (std::count_if(first, records.end(), isLive) != 1) return plan.Fail(kExpressionFailure);
-  plan.Finish(static_cast<int>(first - records.begin()));
-}
-
-void CalcEngine::RunPlan() {
-  for (const ReductionStep& step : plan.Steps()) {
-    step.run(*this, step);
-    if (errorFlag == 1) return;
-  }
-  const double value = At(plan.ResultIndex()).value;
-  if (!std::isfinite(value)) return ReportError(ErrorCode::OutOfRange);
-  result = value;
-}
-
-int CalcEngine::OperandBefore(int index) const {
-  while (index >= 0 && At(index).isOperand != 1) --index;
-  return index;
-}
-
-int CalcEngine::OperandAfter(int index) const {
-  ++index;
-  while (index < tokenCount && At(index).isOperand != 1) ++index;
-  return index;
-}
-
-void CalcEngine::ApplyPass(const OperatorPass& pass, int lo, int hi) {
-  for (int k = lo; k < hi; ++k) {
-    if (At(k).kind != kOperatorKind) continue;
-    const BinaryOperation operation = pass[static_cast<std::size_t>(At(k).op) % pass.size()];
-    if (operation) ApplyBinary(k, {.run = RunBinary, .operation = operation});
-  }
-}
-
-void CalcEngine::ApplyBinary(int index, ReductionStep step) {
-  const int left = OperandBefore(index);
-  if (left < 0) return plan.Fail(kExpressionFailure);
-  const int right = OperandAfter(index);
-  step.left = static_cast<std::uint8_t>(left);
-  step.right = static_cast<std::uint8_t>(right);
-  plan.Add(step);
-  At(right).isOperand = 0;
-  At(index).op = 0;
-}
-
-bool CalcEngine::IsSign(int index) const {
-  --index;
-  while (index >= 0 && At(index).op == 0 && At(index).isOperand != 1) --index;
-  return index < 0 || (At(index).isOperand != 1 && At(index).op != '!');
-}
-
-void CalcEngine::ApplySigns(int lo, int hi) {
-  // A binary sign ends its scan, so a sign behind it stays an operator (5-2*-3); meant.
-  for (int k = lo; k < hi; ++k) {
-    if (At(k).op != '-') continue;
-    if (!IsSign(k)) break;
-    At(k).op = 0;
-    const int operand = OperandAfter(k);
-    if (operand < tokenCount) {
-      plan.Add({.run = RunNegation, .left = static_cast<std::uint8_t>(operand)});
-    }
-  }
-  for (int k = lo; k < hi; ++k) {
-    if (At(k).op != '+') continue;
-    if (!IsSign(k)) break;
-    At(k).op = 0;
-  }
+  // The record behind the last one stands in for missing operands. A caller may have written it.
+  tokens[static_cast<std::size_t>(tokenCount)] = {};
+  RecordSteps steps(*this);
+  Reduction(tokens, tokenCount, baseMode, steps).Run();
 }
 
 }  // namespace vexa

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "engine/CalcModes.h"
-#include "engine/Keywords.h"
-#include "engine/ReductionPlan.h"
+#include "engine/Functions.h"
 #include "engine/TokenList.h"
 
 namespace vexa {
@@ -30,7 +28,7 @@ class CalcEngine : public TokenList {
   /// Reserved for the result's text in the integer bases; stays empty.
   std::wstring resultText;
   /// Function names and codes, the same for every engine object.
-  static constexpr const std::array<Keyword, 16>& keywords = kKeywords;
+  static constexpr const std::span<const Keyword>& keywords = kKeywords;
 
   /// Evaluates `expression` (any case) in the current angle mode and base.
   void EvaluateExpression(std::wstring_view expression);
@@ -46,48 +44,11 @@ class CalcEngine : public TokenList {
   void TokenizeDecimal(std::wstring_view expression);
 
  private:
-  Token& At(int index) { return tokens[static_cast<std::size_t>(index)]; }
-  const Token& At(int index) const { return tokens[static_cast<std::size_t>(index)]; }
-  std::span<const Token> Records() const;
-
-  // The reduction: parentheses from the inside out, then the whole expression. These operations
-  // work on the records' operators only and append the steps to the plan; a binary step clears its
-  // operator and its right operand at once. A range is the records from `lo` to `hi` - 1.
+  /// Reduces the records to the result, or to the first error.
   void Reduce();
-  void ReduceRange(int lo, int hi);
-  void ReduceDecimalRange(int lo, int hi);
-  void ReduceBaseRange(int lo, int hi);
-  /// Signs, factorials, nCr and nPr, powers.
-  void ApplyPrefixesAndPowers(int lo, int hi);
-  void ApplySigns(int lo, int hi);
-  void ApplyFactorials(int lo, int hi);
-  void ApplyCombinatorics(int lo, int hi);
-  void ApplyPowers(int lo, int hi);
-  /// Applies the functions from `lo` to `hi` inclusive to the first live operand behind each.
-  void ApplyFunctions(int lo, int hi);
-  /// NOT, in the integer bases.
-  void ApplyComplements(int lo, int hi);
-  /// The binary operators of `pass`, from left to right.
-  void ApplyPass(const OperatorPass& pass, int lo, int hi);
-  /// Plans the binary `step` of the operator at `index` with its nearest live operands.
-  void ApplyBinary(int index, ReductionStep step);
-  /// Finds the one live operand that is left.
-  void ExtractResult();
 
-  /// Runs the plan's steps on the records' values.
-  void RunPlan();
-
-  /// Index of the nearest live operand at or before `index`, across parentheses; -1: none.
-  int OperandBefore(int index) const;
-  /// Index of the nearest live operand behind `index`. Where none is left, `tokenCount`, whose
-  /// cleared record stands in with the value 0.
-  int OperandAfter(int index) const;
-  /// Whether the "+" or "-" at `index` has no left operand.
-  bool IsSign(int index) const;
-
-  /// Index of the ")" whose "(" is preceded by a function; 0: none.
-  int pendingFunctionClose = 0;
-  ReductionPlan plan;
+  /// The expression in lower case. Kept, so that the next evaluation finds its room.
+  std::wstring lower;
 };
 
 }  // namespace vexa

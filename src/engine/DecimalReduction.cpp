@@ -1,11 +1,18 @@
 // The reduction of a range of records in decimal: functions without parentheses, signs, factorials,
 // nCr and nPr, powers, products, sums.
 
-#include "engine/CalcEngine.h"
+#include "engine/Functions.h"
+#include "engine/Operations.h"
+#include "engine/Reduction.h"
 
 namespace vexa {
+namespace {
 
-void CalcEngine::ReduceDecimalRange(int lo, int hi) {
+constexpr EngineError kMissingFactorialArgument{ErrorCode::NeedsArgument, L"!"};
+
+}  // namespace
+
+void Reduction::ReduceDecimalRange(int lo, int hi) {
   for (int k = hi - 1; k >= lo; --k) {
     if (At(k).op != 'F') continue;
     ApplyFunctions(k, hi);
@@ -17,50 +24,46 @@ void CalcEngine::ReduceDecimalRange(int lo, int hi) {
   ApplyPass(kDecimalSums, lo, hi);
 }
 
-void CalcEngine::ApplyPrefixesAndPowers(int lo, int hi) {
+void Reduction::ApplyPrefixesAndPowers(int lo, int hi) {
   ApplySigns(lo, hi);
   ApplyFactorials(lo, hi);
   ApplyCombinatorics(lo, hi);
   ApplyPowers(lo, hi);
 }
 
-void CalcEngine::ApplyFactorials(int lo, int hi) {
+void Reduction::ApplyFactorials(int lo, int hi) {
   for (int k = lo; k < hi; ++k) {
     if (At(k).op != '!') continue;
     const int operand = OperandBefore(k);
-    if (operand < 0) return plan.Fail({.run = RunMissingFactorialArgument});
-    plan.Add({.run = RunFactorial, .left = static_cast<std::uint8_t>(operand)});
+    if (operand < 0) return Fail(kMissingFactorialArgument);
+    ApplyUnary(operand, kFactorial);
     At(k).op = 0;
   }
 }
 
-void CalcEngine::ApplyCombinatorics(int lo, int hi) {
+void Reduction::ApplyCombinatorics(int lo, int hi) {
   for (int k = lo; k < hi; ++k) {
-    if (At(k).op == 'c') ApplyBinary(k, {.run = RunCombination});
-    if (At(k).op == 'p') ApplyBinary(k, {.run = RunPermutation});
+    if (At(k).op == 'c') ApplyBinary(k, kCombination);
+    if (At(k).op == 'p') ApplyBinary(k, kPermutation);
   }
 }
 
-void CalcEngine::ApplyPowers(int lo, int hi) {
+void Reduction::ApplyPowers(int lo, int hi) {
   int last = hi - 1;
   while (last >= lo && At(last).op != '^') --last;
   for (int k = lo; k <= last; ++k) {
-    if (At(k).op == '^') ApplyBinary(k, {.run = k == last ? RunLastPower : RunPower});
+    if (At(k).op == '^') ApplyBinary(k, k == last ? kLastPower : kPower);
   }
 }
 
-void CalcEngine::ApplyFunctions(int lo, int hi) {
+void Reduction::ApplyFunctions(int lo, int hi) {
   ApplyPrefixesAndPowers(lo, hi);
   for (int k = lo; k <= hi; ++k) {
-    const Token function = At(k);
-    if (function.kind != kFunctionKind || function.op == 0) continue;
+    if (At(k).kind != kFunctionKind || At(k).op == 0) continue;
+    const Keyword& function = FunctionOf(At(k).funcCode);
     const int argument = OperandAfter(k);
-    if (argument == tokenCount) {
-      return plan.Fail({.run = RunMissingArgument, .code = function.funcCode});
-    }
-    plan.Add({.run = RunFunction,
-              .left = static_cast<std::uint8_t>(argument),
-              .code = function.funcCode});
+    if (argument == count) return Fail(function.missingArgument);
+    ApplyUnary(argument, function.operation);
     At(k) = {};
   }
 }

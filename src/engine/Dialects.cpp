@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "engine/Keywords.h"
 #include "engine/NumberReaders.h"
 
 namespace vexa {
@@ -17,35 +16,19 @@ constexpr Token Variable(char name) {
 constexpr Token Operator(char op) {
   return {.op = static_cast<signed char>(op), .kind = kOperatorKind};
 }
-constexpr Token Function(std::int32_t code) {
-  return {.op = 'F', .funcCode = code, .kind = kFunctionKind};
-}
-
 /// The double nearest to pi.
 constexpr double kPi = 3.141592653589793;
 
-constexpr std::size_t kOtherDecimalWords = 3;
+constexpr std::array kDecimalWords{
+    Word{L"pi", Operand(kPi)},
+    Word{L"p", Operator('p')},
+    Word{L"c", Operator('c')},
+};
 
-/// "pi", nPr, nCr and the functions.
-constexpr auto kDecimalWords = [] {
-  std::array<Word, kKeywords.size() + kOtherDecimalWords> words{{
-      {L"pi", Operand(kPi)},
-      {L"p", Operator('p')},
-      {L"c", Operator('c')},
-  }};
-  for (std::size_t i = 0; i < kKeywords.size(); ++i) {
-    words[kOtherDecimalWords + i] = {kKeywords[i].name, Function(kKeywords[i].code)};
-  }
-  return words;
-}();
-
-constexpr std::array<Word, 5> kBaseWords{{
-    {L"and", Operator('a')},
-    {L"or", Operator('o')},
-    {L"xor", Operator('x')},
-    {L"xnor", Operator('y')},
-    {L"not", Operator('n')},
-}};
+constexpr std::array kBaseWords{
+    Word{L"and", Operator('a')},  Word{L"or", Operator('o')},  Word{L"xor", Operator('x')},
+    Word{L"xnor", Operator('y')}, Word{L"not", Operator('n')},
+};
 
 constexpr Word kX{L"x", Variable('x')};
 constexpr Word kY{L"y", Variable('y')};
@@ -53,20 +36,27 @@ constexpr Word kZ{L"z", Variable('z')};
 constexpr Word kRefusedY{L"y", Variable('y'), L"Can not use variable Y"};
 constexpr Word kRefusedZ{L"z", Variable('z'), L"Can not use variable Z"};
 
-constexpr std::array<Word, 3> kVariablesX{kX, kRefusedY, kRefusedZ};
-constexpr std::array<Word, 3> kVariablesXY{kX, kY, kRefusedZ};
-constexpr std::array<Word, 3> kVariablesXYZ{kX, kY, kZ};
+constexpr std::array kVariablesX{kX, kRefusedY, kRefusedZ};
+constexpr std::array kVariablesXY{kX, kY, kRefusedZ};
+constexpr std::array kVariablesXYZ{kX, kY, kZ};
 
 constexpr std::wstring_view kDecimalOperators = L"^+-*/!%";
 constexpr std::wstring_view kBaseOperators = L"+-*/";
 
-constexpr Dialect kDecimal{kDecimalOperators, kDecimalWords, {}, ReadDecimalNumber};
-constexpr Dialect kHexadecimal{kBaseOperators, kBaseWords, {}, ReadHexNumber};
-constexpr Dialect kBinary{kBaseOperators, kBaseWords, {}, ReadBinaryNumber};
-constexpr Dialect kOctal{kBaseOperators, kBaseWords, {}, ReadOctalNumber};
-constexpr Dialect kFormulaX{kDecimalOperators, kDecimalWords, kVariablesX, ReadDecimalNumber};
-constexpr Dialect kFormulaXY{kDecimalOperators, kDecimalWords, kVariablesXY, ReadDecimalNumber};
-constexpr Dialect kFormulaXYZ{kDecimalOperators, kDecimalWords, kVariablesXYZ, ReadDecimalNumber};
+constexpr Dialect Decimal(std::span<const Word> variables) {
+  return {kDecimalOperators, kDecimalWords, variables, ReadDecimalNumber, true};
+}
+constexpr Dialect kDecimal = Decimal({});
+constexpr Dialect kFormulaX = Decimal(kVariablesX);
+constexpr Dialect kFormulaXY = Decimal(kVariablesXY);
+constexpr Dialect kFormulaXYZ = Decimal(kVariablesXYZ);
+
+constexpr Dialect Integer(NumberReader readNumber) {
+  return {kBaseOperators, kBaseWords, {}, readNumber, false};
+}
+constexpr Dialect kHexadecimal = Integer(ReadHexNumber);
+constexpr Dialect kBinary = Integer(ReadBinaryNumber);
+constexpr Dialect kOctal = Integer(ReadOctalNumber);
 
 }  // namespace
 

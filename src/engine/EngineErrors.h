@@ -26,6 +26,15 @@ inline constexpr std::wstring_view kOutOfRangeText = L"Out of range(overflow or 
 /// The sentence of an expression whose parts do not fit together.
 inline constexpr std::wstring_view kExpressionErrorText = L"Expression error.";
 
+/// An error: its code and the argument of its sentence.
+struct EngineError {
+  ErrorCode code;
+  std::wstring_view argument = {};
+};
+
+inline constexpr EngineError kOutOfRange{ErrorCode::OutOfRange};
+inline constexpr EngineError kExpressionError{ErrorCode::Expression};
+
 /// Composes the sentence of `code` with `argument`. For a code outside the table returns `current`
 /// unchanged.
 std::wstring ErrorText(ErrorCode code, std::wstring_view argument, std::wstring current);

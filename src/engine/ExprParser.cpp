@@ -1,6 +1,7 @@
 #include "engine/ExprParser.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "engine/AsciiCase.h"

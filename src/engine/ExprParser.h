@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
+#include <span>
 #include <string_view>
 
-#include "engine/Keywords.h"
+#include "engine/Functions.h"
 #include "engine/TokenList.h"
 
 namespace vexa {
@@ -20,7 +20,7 @@ class ExprParser : public TokenList {
   /// Set before Validate.
   FormulaType formulaType = FormulaType::X;
   /// Function names and codes, the same for every parser object.
-  static constexpr const std::array<Keyword, 16>& keywords = kKeywords;
+  static constexpr const std::span<const Keyword>& keywords = kKeywords;
 
   /// Tokenizes `formula` (any case), checks that it uses exactly the variables of `formulaType`,
   /// and checks its syntax. A function needs parentheses here.

@@ -47,6 +47,8 @@ constexpr SymbolSet Only(std::string_view symbols) {
   return set;
 }
 
+constexpr EngineError kUnmatchedParentheses{ErrorCode::UnmatchedParentheses};
+
 constexpr SymbolSet kAny = ~SymbolSet{0};
 constexpr SymbolSet AllBut(std::string_view symbols) {
   return kAny & ~Only(symbols);
@@ -126,26 +128,27 @@ constexpr std::array<RuleTable, 3> kTables{MakeTable(kDecimalRules), MakeTable(k
 
 }  // namespace
 
-void CheckSyntax(SyntaxRules rules, TokenList& list) {
+const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> records) {
   const RuleTable& table = kTables[static_cast<std::size_t>(rules)];
-  const std::span records(list.tokens.data(), static_cast<std::size_t>(list.tokenCount));
   int depth = 0;
   for (const Token& token : records) depth += (token.op == '(') - (token.op == ')');
-  if (depth != 0) {
-    list.ReportError(ErrorCode::UnmatchedParentheses);
-    return;
-  }
+  if (depth != 0) return &kUnmatchedParentheses;
   std::uint8_t previous = IndexOf(kStart);
   for (std::size_t i = 0; i < records.size(); ++i) {
     const std::uint8_t current = IndexOf(records[i]);
     const std::uint8_t next = i + 1 < records.size() ? IndexOf(records[i + 1]) : IndexOf(kEnd);
     const Neighbours& allowed = table[current];
     if (!(allowed.previous & Bit(previous)) || !(allowed.next & Bit(next))) {
-      list.ReportError(ErrorCode::Expression);
-      return;
+      return &kExpressionError;
     }
     previous = current;
   }
+  return nullptr;
+}
+
+void CheckSyntax(SyntaxRules rules, TokenList& list) {
+  const EngineError* const error = FindSyntaxError(rules, list.Records());
+  if (error) list.ReportError(*error);
 }
 
 }  // namespace vexa

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "engine/TokenList.h"
 
 namespace vexa {
@@ -11,8 +13,11 @@ enum class SyntaxRules {
   Base,     ///< expressions in an integer base
 };
 
-/// Checks that the parentheses match in number and that every record has neighbours that `rules`
-/// allow; reports the first violation.
+/// The first violation of `rules` in `records`: parentheses that do not match in number, or a
+/// record whose neighbours are not allowed; null: there is none.
+const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> records);
+
+/// Reports the first violation of `rules` in the list's records.
 void CheckSyntax(SyntaxRules rules, TokenList& list);
 
 }  // namespace vexa

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -28,5 +29,7 @@ struct Token {
   std::int32_t kind = 0;       ///< a TokenKind
   double value = 0.0;          ///< the operand's value
 };
+
+using TokenArray = std::array<Token, kTokenRecords>;
 
 }  // namespace vexa

@@ -1,5 +1,6 @@
 #include "engine/TokenList.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vexa {
@@ -12,14 +13,12 @@ void TokenList::ReportError(ErrorCode code, std::wstring_view argument) {
 void TokenList::Clear() {
   errorFlag = 0;
   errorText.clear();
-  tokenCount = 0;
-  // All of them: a caller may have written records behind the ones in use.
-  tokens.fill({});
+  ClearRecords();
 }
 
-void TokenList::ClearRecordsFrom(std::size_t count) {
-  const auto used = static_cast<std::size_t>(tokenCount);
-  for (std::size_t i = count; i <= used; ++i) tokens[i] = {};
+void TokenList::ClearRecords() {
+  std::fill_n(tokens.begin(), tokenCount, Token{});
+  tokenCount = 0;
 }
 
 }  // namespace vexa

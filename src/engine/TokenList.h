@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -19,18 +20,23 @@ class TokenList {
   std::wstring errorText;
   /// 1 once any stage has reported an error. Every stage returns at once when it finds it at 1.
   int errorFlag = 0;
-  std::array<Token, kTokenRecords> tokens{};
+  TokenArray tokens{};
   /// Records in use, at most kMaxTokens + 1.
   int tokenCount = 0;
 
+  std::span<const Token> Records() const {
+    return {tokens.data(), static_cast<std::size_t>(tokenCount)};
+  }
+
   /// Composes the message of `code` with `argument` (see ErrorText), stores it and raises the flag.
   void ReportError(ErrorCode code, std::wstring_view argument = {});
+  void ReportError(const EngineError& error) { ReportError(error.code, error.argument); }
 
  protected:
   /// Forgets the records and the error.
   void Clear();
-  /// Clears the records from `count` on; those behind the ones in use are clear already.
-  void ClearRecordsFrom(std::size_t count);
+  /// Forgets the records, which are clear from then on.
+  void ClearRecords();
 };
 
 }  // namespace vexa

@@ -1,5 +1,9 @@
 #include "engine/Tokenizer.h"
 
+#include <algorithm>
+
+#include "engine/Functions.h"
+
 namespace vexa {
 namespace {
 
@@ -24,11 +28,16 @@ Token MarkRecord(wchar_t op, TokenKind kind) {
 
 const Word* FindWord(std::wstring_view text, const Dialect& dialect) {
   for (const std::span<const Word>& words : {dialect.words, dialect.variables}) {
-    for (const Word& word : words) {
-      if (word.text == text) return &word;
-    }
+    const auto found = std::ranges::find(words, text, &Word::text);
+    if (found != words.end()) return &*found;
   }
   return nullptr;
+}
+
+const Keyword* FindFunction(std::wstring_view text, const Dialect& dialect) {
+  if (!dialect.hasFunctions) return nullptr;
+  const auto found = std::ranges::find(kKeywords, text, &Keyword::name);
+  return found == kKeywords.end() ? nullptr : &*found;
 }
 
 /// Reads the front of `text` as one token. Returns its length and appends its record, or reports an
@@ -53,23 +62,23 @@ struct TokenReader {
       const std::size_t length = RunLength(text, IsLetter);
       return ReadWord(text.substr(0, length), length == text.size());
     }
-    return Refuse(ErrorCode::NotSupported, text.substr(0, 1));
+    return Refuse({ErrorCode::NotSupported, text.substr(0, 1)});
   }
 
   std::size_t ReadShift(std::wstring_view run) {
-    if (run != L"<<" && run != L">>") return Refuse(ErrorCode::NotSupported, run);
+    if (run != L"<<" && run != L">>") return Refuse({ErrorCode::NotSupported, run});
     return Append(MarkRecord(run.front(), kOperatorKind), run.size());
   }
 
   std::size_t ReadWord(std::wstring_view text, bool endsExpression) {
-    const Word* const word = FindWord(text, dialect);
-    if (!word) return Refuse(ErrorCode::NotSupported, text);
-    if (!word->refusal.empty()) return Refuse(ErrorCode::Message, word->refusal);
-    Append(word->token, text.size());
-    if (word->token.kind == kFunctionKind && endsExpression) {
-      return Refuse(ErrorCode::NeedsArgument, text);
+    if (const Keyword* const function = FindFunction(text, dialect)) {
+      Append({.op = 'F', .funcCode = function->code, .kind = kFunctionKind}, text.size());
+      return endsExpression ? Refuse(function->missingArgument) : text.size();
     }
-    return text.size();
+    const Word* const word = FindWord(text, dialect);
+    if (!word) return Refuse({ErrorCode::NotSupported, text});
+    if (!word->refusal.empty()) return Refuse({ErrorCode::Message, word->refusal});
+    return Append(word->token, text.size());
   }
 
   std::size_t Append(const Token& token, std::size_t length) {
@@ -78,8 +87,8 @@ struct TokenReader {
     return length;
   }
 
-  std::size_t Refuse(ErrorCode code, std::wstring_view argument) {
-    list.ReportError(code, argument);
+  std::size_t Refuse(const EngineError& error) {
+    list.ReportError(error);
     return 0;
   }
 };

@@ -17,6 +17,10 @@ struct Word {
   std::wstring_view refusal = {};
 };
 
+/// Reads the number at the front of a text into the token and returns its length; 0 when no number
+/// stands there or an error was reported.
+using NumberReader = std::size_t (*)(std::wstring_view text, Token& token, TokenList& errors);
+
 /// What a kind of expression is made of, besides blanks, parentheses, "<<" and ">>", which every
 /// kind has.
 struct Dialect {
@@ -25,9 +29,9 @@ struct Dialect {
   std::span<const Word> words;
   /// Further words: a formula's variables.
   std::span<const Word> variables;
-  /// Reads the number at the front of a text into the token and returns its length; 0 when no
-  /// number stands there or an error was reported.
-  std::size_t (*readNumber)(std::wstring_view text, Token& token, TokenList& errors);
+  NumberReader readNumber;
+  /// Whether it has the functions.
+  bool hasFunctions;
 };
 
 /// Cuts the lower-case `text` into records of `list`, stopping at the first error. The records made

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "engine/CalcModes.h"
-#include "engine/Token.h"
+#include "engine/FormulaProgram.h"
 #include "plotter/PlotRanges.h"
 
 namespace vexa {
@@ -12,10 +12,10 @@ namespace vexa {
 /// Functions that one graph shows at most.
 inline constexpr std::size_t kMaxGraphFunctions = 3;
 
-/// A function of a graph: what lists call it, and its records with the variable X in them.
+/// A function of a graph: what lists call it, and its formula of X.
 struct GraphFunction {
   std::wstring label;
-  std::vector<Token> tokens;
+  FormulaProgram program;
 };
 
 /// A point that is drawn as a dot, whatever the functions are.

@@ -36,7 +36,7 @@ std::wstring ParseGraphFunction(std::size_t position, std::wstring_view text,
   parser.Validate(text);
   if (!parser.errorText.empty()) return parser.errorText;
   function.label = GraphLabel(position, text);
-  function.tokens.assign(parser.tokens.begin(), parser.tokens.begin() + parser.tokenCount);
+  function.program = FormulaProgram(parser.Records());
   return {};
 }
 

@@ -18,10 +18,6 @@ std::optional<int> PixelWithin(double position, int low, int high) {
 
 }  // namespace
 
-double ExactRow(double y, const PlotRanges& ranges) {
-  return kBottom - (kHeight / (ranges.yMax - ranges.yMin)) * (y - ranges.yMin);
-}
-
 std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ranges) {
   const double position =
       std::trunc((kWidth / (ranges.xMax - ranges.xMin)) * (point.x - ranges.xMin) + kLeft);

@@ -4,6 +4,7 @@
 
 #include "plotter/GraphData.h"
 #include "plotter/PixelPoint.h"
+#include "plotter/PlotArea.h"
 #include "plotter/PlotRanges.h"
 
 /// From values to pixels of the plot area, and back. The formulas are exact to the last bit, so
@@ -11,7 +12,10 @@
 namespace vexa::graph_mapping {
 
 /// The row of the value `y`, not truncated yet; any double, also one that is no number.
-double ExactRow(double y, const PlotRanges& ranges);
+inline double ExactRow(double y, const PlotRanges& ranges) {
+  using namespace plot_area;
+  return kBottom - (kHeight / (ranges.yMax - ranges.yMin)) * (y - ranges.yMin);
+}
 
 /// The pixel of a data point; none when it lies outside of the plot area.
 std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ranges);

@@ -3,9 +3,7 @@
 #include <utility>
 
 #include "display/FormatResult.h"
-#include "engine/CalcEngine.h"
 #include "plotter/GraphMapping.h"
-#include "plotter/XFormula.h"
 #include "toolkit/NumberBox.h"
 
 namespace vexa {
@@ -168,13 +166,12 @@ std::wstring GraphModel::Cal() {
   const std::optional<double> x = ReadNumberBox(xBox);
   if (!x) return std::wstring(kEnterNumber);
   readOuts.clear();
+  FormulaValues outcome;
   for (std::size_t i = 0; i < data.functions.size(); ++i) {
-    CalcEngine engine;
-    engine.angleMode = data.angleType;
-    XFormula(data.functions[i].tokens).Evaluate(*x, engine);
+    data.functions[i].program.Evaluate({&*x, 1}, data.angleType, outcome);
     ReadOut& readOut = readOuts.emplace_back();
     readOut.name = kFunctionLetters[i] + (L":F" + std::to_wstring(i + 1) + L"(X) = ");
-    if (engine.errorText.empty()) readOut.value = engine.result;
+    if (!outcome.errors[0]) readOut.value = outcome.values[0];
   }
   selectedReadOut = selectedFunction;
   return {};

@@ -3,9 +3,7 @@
 #include <bitset>
 #include <cmath>
 
-#include "engine/CalcEngine.h"
 #include "plotter/GraphMapping.h"
-#include "plotter/XFormula.h"
 
 namespace vexa {
 namespace {
@@ -16,57 +14,63 @@ using namespace plot_area;
 constexpr double kStepShare = 0.004366812227074236;
 constexpr int kMiddleRow = kTop + kHeight / 2;
 
-/// Samples one function after the other with one engine.
+/// Samples one function after the other.
 class Sampler {
  public:
-  Sampler(AngleType angle, const PlotRanges& shown) : ranges(shown) { engine.angleMode = angle; }
+  Sampler(AngleType angleType, const PlotRanges& shown) : angle(angleType), ranges(shown) {
+    for (std::size_t i = 0; i < kSampleCount; ++i) xs[i] = SampleX(i, ranges.xMin, ranges.xMax);
+  }
 
-  SampledCurve Sample(const GraphFunction& function) {
-    curve = {};
-    const XFormula formula(function.tokens);
+  /// Fills `samples`, which are empty.
+  void Sample(const GraphFunction& function, SampledCurve& samples) {
+    function.program.Evaluate(xs, angle, outcome);
     for (std::size_t i = 0; i < kSampleCount; ++i) {
-      const bool previousFailed = !engine.errorText.empty();
-      formula.Evaluate(SampleX(i, ranges.xMin, ranges.xMax), engine);
-      if (engine.errorText.empty()) Place(i, previousFailed);
+      rows[i] = graph_mapping::ExactRow(outcome.values[i], ranges);
     }
-    return curve;
+    bool previousFailed = false;
+    for (std::size_t i = 0; i < kSampleCount; ++i) {
+      const bool failed = outcome.errors[i] != nullptr;
+      if (!failed) Place(samples, i, previousFailed);
+      previousFailed = failed;
+    }
   }
 
  private:
-  /// Stores the point of sample `i`, whose value `engine` holds, and the edge points.
-  void Place(std::size_t i, bool previousFailed) {
-    const double exactRow = graph_mapping::ExactRow(engine.result, ranges);
-    const double row = std::trunc(exactRow);
-    if (row >= kTop && row <= kBottom) {
-      Store(i, static_cast<int>(row), exactRow);
-      if (i > 0 && curve[i - 1].IsEmpty() && !previousFailed) StoreEntry(i);
+  /// Stores the point of sample `i` and the edge points.
+  void Place(SampledCurve& curve, std::size_t i, bool previousFailed) {
+    const double row = rows[i];
+    if (row >= kTop && row < kBottom + 1) {
+      curve[i] = PointAt(i, row);
+      if (i > 0 && curve[i - 1].IsEmpty() && !previousFailed) StoreEntry(curve, i);
       previousInside = true;
       return;
     }
-    if (i > 0 && !curve[i - 1].IsEmpty() && previousInside) StoreExit(i, row);
+    if (i > 0 && !curve[i - 1].IsEmpty() && previousInside) StoreExit(curve, i);
     previousInside = false;
   }
 
   /// The curve comes back into the area at `i`: it starts at the edge, one column before. A curve
   /// that comes in on the middle row has no such point.
-  void StoreEntry(std::size_t i) {
-    if (curve[i].pixel.y < kMiddleRow) Store(i - 1, kTop, kTop);
-    if (curve[i].pixel.y > kMiddleRow) Store(i - 1, kBottom, kBottom);
+  static void StoreEntry(SampledCurve& curve, std::size_t i) {
+    if (curve[i].pixel.y < kMiddleRow) curve[i - 1] = PointAt(i - 1, kTop);
+    if (curve[i].pixel.y > kMiddleRow) curve[i - 1] = PointAt(i - 1, kBottom);
   }
 
   /// The curve leaves the area at `i`: it ends at the edge. A row that is no number has none.
-  void StoreExit(std::size_t i, double row) {
-    if (row < kTop) Store(i, kTop, kTop);
-    if (row > kBottom) Store(i, kBottom, kBottom);
+  void StoreExit(SampledCurve& curve, std::size_t i) const {
+    if (rows[i] < kTop) curve[i] = PointAt(i, kTop);
+    if (rows[i] >= kBottom + 1) curve[i] = PointAt(i, kBottom);
   }
 
-  void Store(std::size_t i, int row, double exactRow) {
-    curve[i] = {{kLeft + static_cast<int>(i), row}, exactRow};
+  static CurvePoint PointAt(std::size_t i, double exactRow) {
+    return {{kLeft + static_cast<int>(i), static_cast<int>(exactRow)}, exactRow};
   }
 
+  AngleType angle;
   PlotRanges ranges;
-  CalcEngine engine;
-  SampledCurve curve{};
+  std::array<double, kSampleCount> xs;
+  FormulaValues outcome;
+  std::array<double, kSampleCount> rows;
   bool previousInside = false;
 };
 
@@ -96,9 +100,9 @@ double SampleX(std::size_t index, double xMin, double xMax) {
 SampledGraph SampleGraph(const GraphData& data, const PlotRanges& ranges) {
   SampledGraph graph;
   Sampler sampler(data.angleType, ranges);
-  graph.curves.reserve(data.functions.size());
-  for (const GraphFunction& function : data.functions) {
-    graph.curves.push_back(sampler.Sample(function));
+  graph.curves.resize(data.functions.size());
+  for (std::size_t i = 0; i < graph.curves.size(); ++i) {
+    sampler.Sample(data.functions[i], graph.curves[i]);
   }
   graph.axisRow = graph_mapping::AxisRow(ranges);
   graph.axisColumn = graph_mapping::AxisColumn(ranges);

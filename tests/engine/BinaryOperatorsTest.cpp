@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <random>
 #include <string>
@@ -11,10 +12,17 @@
 namespace vexa {
 namespace {
 
+struct BinaryOutcome {
+  double value = 0.0;
+  const EngineError* error = nullptr;
+};
+
 BinaryOutcome Outcome(const OperatorPass& pass, char op, double left, double right) {
-  const BinaryOperation operation = pass[static_cast<std::size_t>(op)];
+  const Operation* const operation = pass[static_cast<std::size_t>(op)];
   EXPECT_NE(operation, nullptr) << op;
-  return operation ? operation(left, right) : BinaryOutcome{};
+  if (!operation) return {};
+  const EngineError* const error = operation->Run(left, right, AngleType::Degrees);
+  return {left, error};
 }
 
 std::string OperatorsOf(const OperatorPass& pass) {
@@ -73,7 +81,7 @@ TEST(BinaryOperators, Products) {
   for (const ValueCase& c : cases) {
     for (const OperatorPass* pass : {&kDecimalProducts, &kBaseProducts}) {
       const BinaryOutcome outcome = Outcome(*pass, c.op, c.left, c.right);
-      EXPECT_EQ(outcome.exceeded, nullptr) << c.op;
+      EXPECT_EQ(outcome.error, nullptr) << c.op;
       EXPECT_EQ(outcome.value, c.value) << c.left << c.op << c.right;
     }
   }
@@ -105,12 +113,26 @@ TEST(BinaryOperators, Limits) {
   for (const LimitCase& c : cases) {
     for (const double zero : {0.0, -0.0}) {
       const BinaryOutcome outcome = Outcome(kDecimalProducts, c.op, 7, zero);
-      ASSERT_NE(outcome.exceeded, nullptr) << c.op;
-      EXPECT_EQ(outcome.exceeded, c.name);
+      ASSERT_NE(outcome.error, nullptr) << c.op;
+      EXPECT_EQ(outcome.error->code, ErrorCode::LimitExceeded);
+      EXPECT_EQ(outcome.value, 7);
+      EXPECT_EQ(outcome.error->argument, c.name);
     }
   }
-  EXPECT_EQ(Outcome(kBaseProducts, '/', 1, 0).exceeded, std::wstring_view(L"Division"));
-  EXPECT_EQ(Outcome(kBaseProducts, '>', 1, 0).exceeded, std::wstring_view(L">>"));
+  EXPECT_EQ(Outcome(kBaseProducts, '/', 1, 0).error->argument, L"Division");
+  EXPECT_EQ(Outcome(kBaseProducts, '>', 1, 0).error->argument, L">>");
+}
+
+TEST(BinaryOperators, OperandsHaveToBeFinite) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  for (const OperatorPass* pass : {&kDecimalProducts, &kDecimalSums, &kBaseProducts, &kBaseSums}) {
+    for (const char op : OperatorsOf(*pass)) {
+      for (const double bad : {kInfinity, -kInfinity, std::nan("")}) {
+        EXPECT_EQ(Outcome(*pass, op, bad, 0.0).error, &kOutOfRange) << op;
+        EXPECT_EQ(Outcome(*pass, op, 0.0, bad).error, &kOutOfRange) << op;
+      }
+    }
+  }
 }
 
 TEST(BinaryOperators, BitwiseTruthTable) {

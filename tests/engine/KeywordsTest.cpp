@@ -1,5 +1,3 @@
-#include "engine/Keywords.h"
-
 #include <gtest/gtest.h>
 
 #include <iterator>
@@ -8,6 +6,7 @@
 
 #include "engine/CalcEngine.h"
 #include "engine/ExprParser.h"
+#include "engine/Functions.h"
 
 namespace vexa {
 namespace {

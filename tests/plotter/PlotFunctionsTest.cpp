@@ -5,6 +5,7 @@
 #include "display/MemorySettingsStore.h"
 #include "display/SettingsLayout.h"
 #include "macros/MacroTable.h"
+#include "support/FormulaValue.h"
 
 namespace vexa {
 namespace {
@@ -149,8 +150,7 @@ TEST_F(PlotFunctionsTest, FunctionsMayCallMacros) {
   GraphData graph;
   EXPECT_EQ(plotter.Plot(L"", kTexts, {}, graph).sentence, L"");
   EXPECT_EQ(graph.functions[0].label, L"R:F1(X)=M:sq(x)+1");
-  const std::size_t records = std::wstring_view(L"((x)^2)+1").size();
-  EXPECT_EQ(graph.functions[0].tokens.size(), records);
+  EXPECT_EQ(test::ValueAt(graph.functions[0].program, 3), 10.0);
   // The macro is gone when the function is plotted again.
   MacroTable macros(store);
   macros.LoadMacroTable();
@@ -301,10 +301,9 @@ TEST_F(PlotFunctionsTest, PlotHandsOverEverything) {
   EXPECT_EQ(graph.functions[0].label, L"R:F1(X)=x");
   EXPECT_EQ(graph.functions[1].label, L"G:F2(x)=X^2");
   EXPECT_EQ(graph.functions[2].label, L"B:F3(X)=sin(x)");
-  EXPECT_EQ(graph.functions[0].tokens.size(), 1u);
-  EXPECT_EQ(graph.functions[1].tokens.size(), 3u);
-  EXPECT_EQ(graph.functions[2].tokens.size(), 4u);
-  EXPECT_EQ(graph.functions[0].tokens[0].op, 'x');
+  EXPECT_EQ(test::ValueAt(graph.functions[0].program, 3), 3.0);
+  EXPECT_EQ(test::ValueAt(graph.functions[1].program, 3), 9.0);
+  EXPECT_EQ(test::ValueAt(graph.functions[2].program, 30), 0.49999999999999994);
   EXPECT_EQ(graph.ranges, (PlotRanges{-1, 2, -3, 4}));
   EXPECT_EQ(graph.options, options);
   EXPECT_EQ(graph.angleType, AngleType::Radians);

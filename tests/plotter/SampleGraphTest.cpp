@@ -8,7 +8,6 @@
 #include <limits>
 
 #include "plotter/Graphs.h"
-#include "plotter/XFormula.h"
 
 namespace vexa {
 namespace {
@@ -164,24 +163,6 @@ TEST(SampleGraph, HostileRangesAndFunctionsAreHarmless) {
       }
     }
   }
-}
-
-TEST(XFormula, ReplacesEveryX) {
-  const GraphData data = Graph({L"x*x+x"});
-  const XFormula formula(data.functions[0].tokens);
-  CalcEngine engine;
-  for (const double x : {0.0, 1.0, -2.5, 1e10}) {
-    formula.Evaluate(x, engine);
-    EXPECT_EQ(engine.errorText, L"");
-    EXPECT_EQ(engine.result, x * x + x);
-  }
-}
-
-TEST(XFormula, TakesWhatTheEngineHolds) {
-  std::vector<Token> tokens(1000, Token{.op = 'x', .isOperand = 1});
-  CalcEngine engine;
-  XFormula(tokens).Evaluate(1.0, engine);
-  EXPECT_EQ(engine.errorText, L"Expression error.");
 }
 
 }  // namespace

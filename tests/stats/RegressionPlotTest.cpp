@@ -8,6 +8,7 @@
 
 #include "plotter/GraphModel.h"
 #include "stats/Lists.h"
+#include "support/FormulaValue.h"
 
 namespace vexa {
 namespace {
@@ -38,9 +39,8 @@ TEST(RegressionPlot, LabelTokensRangesAndFlags) {
   const GraphData& graph = prepared.graph;
   ASSERT_EQ(graph.functions.size(), 1u);
   EXPECT_EQ(graph.functions[0].label, L"R:F1(X)=2*X+0");
-  ASSERT_EQ(graph.functions[0].tokens.size(), 5u);
-  EXPECT_EQ(graph.functions[0].tokens[0].value, 2.0);
-  EXPECT_EQ(graph.functions[0].tokens[2].op, 'x');
+  EXPECT_EQ(test::ValueAt(graph.functions[0].program, 0), 0.0);
+  EXPECT_EQ(test::ValueAt(graph.functions[0].program, 3.5), 7.0);
   EXPECT_DOUBLE_EQ(graph.ranges.xMin, 0.4);
   EXPECT_DOUBLE_EQ(graph.ranges.xMax, 3.6);
   EXPECT_DOUBLE_EQ(graph.ranges.yMin, 0.8);
@@ -126,7 +126,8 @@ TEST(RegressionPlot, CoefficientsWithExponentsCanBeDrawn) {
   EXPECT_EQ(prepared.message, L"");
   ASSERT_EQ(prepared.graph.functions.size(), 1u);
   EXPECT_EQ(prepared.graph.functions[0].label, L"R:F1(X)=1.45000e+014*X+-1.35000e+014");
-  EXPECT_EQ(prepared.graph.functions[0].tokens[0].value, 1.45e14);
+  EXPECT_EQ(test::ValueAt(prepared.graph.functions[0].program, 0), -1.35e14);
+  EXPECT_EQ(test::ValueAt(prepared.graph.functions[0].program, 2), 1.55e14);
 }
 
 TEST(RegressionPlot, AnExtentBeyondAllNumbersIsHandedOn) {

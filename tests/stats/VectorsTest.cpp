@@ -159,7 +159,9 @@ class RegressionVectors : public testing::Test {
     ASSERT_EQ(graph.functions.size(), 1u);
     EXPECT_EQ(Narrow(graph.functions[0].label),
               "R:F1(X)=" + expected["curve"].toString().toStdString());
-    EXPECT_FALSE(graph.functions[0].tokens.empty());
+    FormulaValues outcome;
+    graph.functions[0].program.Evaluate(std::array{1.5}, graph.angleType, outcome);
+    EXPECT_NE(outcome.Sentence(0), L"Expression error.");
     EXPECT_EQ(graph.dataPoints.size(), list.RowCount());
     ++plotted;
   }
