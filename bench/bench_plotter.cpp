@@ -1,7 +1,6 @@
 // How fast the plotter is: sampling a formula against another parser and against the formula
-// compiled into the program, in the same run; and from a command to the painted frame.
+// compiled into the program; and from a command to the painted frame.
 
-#include <benchmark/benchmark.h>
 #include <muParser.h>
 
 #include <QGuiApplication>
@@ -9,6 +8,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "Ratios.h"
 #include "plotter/GraphBitmap.h"
@@ -21,8 +21,6 @@ using namespace vexa::bench;
 
 namespace {
 
-constexpr std::wstring_view kFormula = L"x^3-2*x+sin(x)/3";
-constexpr const char* kFormulaMuParser = "x^3-2*x+sin(x)/3";
 /// A frame of the display, in nanoseconds.
 constexpr double kFrame = 16e6;
 
@@ -55,107 +53,122 @@ GraphData ThreeFunctions() {
   return Graph({L"x^3/20-2*x", L"5*sin(x)", L"10/(x^2+1)"});
 }
 
-/// Formulas of as many tokens as an expression has: a sum, a product of sines, powers.
-GraphData LongestFunctions() {
-  std::wstring sum = L"x";
-  std::wstring sines = L"sin(x)";
-  std::wstring powers = L"x";
-  while (sum.size() + 2 <= 150) sum += L"+x";
-  for (int n = 4; n + 5 <= 150; n += 5) sines += L"*sin(x)";
-  for (int n = 1; n + 4 <= 150; n += 4) powers += L"-x^2";
-  return Graph({sum, sines, powers});
+constexpr std::size_t kMostTokens = 150;
+
+/// `first`, then `next` as often as an expression of 150 tokens has room for it. In `next`, "#" is
+/// the number of its place.
+std::wstring Longest(std::wstring text, const std::wstring& next, std::size_t tokens,
+                     std::size_t firstTokens) {
+  int place = 2;
+  for (std::size_t count = firstTokens; count + tokens <= kMostTokens; count += tokens) {
+    std::wstring piece = next;
+    if (const auto at = piece.find(L'#'); at != piece.npos) {
+      piece.replace(at, 1, std::to_wstring(place++));
+    }
+    text += piece;
+  }
+  return text;
 }
 
-void Sample(benchmark::State& state, const GraphData& data) {
-  for (auto _ : state) benchmark::DoNotOptimize(SampleGraph(data, data.ranges));
+/// A sum, a product of sines, powers.
+GraphData LongestFunctions() {
+  return Graph({Longest(L"x", L"+x", 2, 1), Longest(L"sin(x)", L"*sin(x)", 5, 4),
+                Longest(L"x", L"-x^2", 4, 1)});
+}
+
+/// The same, with nothing in it that was computed before.
+GraphData LongestDistinctFunctions() {
+  return Graph({Longest(L"x", L"+x/#", 4, 1), Longest(L"sin(x)", L"*sin(x/#)", 7, 4),
+                Longest(L"x", L"-x^#", 4, 1)});
+}
+
+Work Sample(const GraphData& data) {
+  return [=](std::size_t times) {
+    for (; times > 0; --times) Use(SampleGraph(data, data.ranges));
+  };
 }
 
 // The same rows, found by the other parser and by compiled code.
 
 template <typename Evaluate>
-void SampleRows(benchmark::State& state, Evaluate evaluate) {
-  for (auto _ : state) {
-    std::array<int, kSampleCount> rows{};
-    for (std::size_t i = 0; i < kSampleCount; ++i) {
-      const double y = evaluate(SampleX(i, -10.0, 10.0));
-      const double row = std::trunc(260 - (170 / 20.0) * (y + 10.0));
-      if (row >= 90 && row <= 260) rows[i] = static_cast<int>(row);
+Work SampleRows(Evaluate evaluate) {
+  return [=](std::size_t times) {
+    for (; times > 0; --times) {
+      std::array<int, kSampleCount> rows{};
+      for (std::size_t i = 0; i < kSampleCount; ++i) {
+        const double y = evaluate(SampleX(i, -10.0, 10.0));
+        const double row = std::trunc(260 - (170 / 20.0) * (y + 10.0));
+        if (row >= 90 && row <= 260) rows[i] = static_cast<int>(row);
+      }
+      Use(rows);
     }
-    benchmark::DoNotOptimize(rows);
-  }
+  };
 }
 
-void SampleMuParser(benchmark::State& state) {
+struct OtherParser {
   mu::Parser parser;
   double x = 0.0;
-  parser.DefineVar("x", &x);
-  parser.SetExpr(kFormulaMuParser);
-  parser.Eval();
-  SampleRows(state, [&](double at) {
-    x = at;
-    return parser.Eval();
+};
+
+Work SampleMuParser(const char* formula) {
+  const auto other = std::make_shared<OtherParser>();
+  other->parser.DefineVar("x", &other->x);
+  other->parser.SetExpr(formula);
+  other->parser.Eval();
+  return SampleRows([=](double x) {
+    other->x = x;
+    return other->parser.Eval();
   });
 }
 
-void SampleCompiled(benchmark::State& state) {
-  SampleRows(state, [](double x) { return std::pow(x, 3.0) - 2 * x + std::sin(x) / 3; });
+void MeasureSampling(Ratios& ratios) {
+  const Work ours = Sample(Graph({L"x^3-2*x+sin(x)/3"}));
+  ratios.Ratio("sample x^3-2*x+sin(x)/3", ours, "muParser", SampleMuParser("x^3-2*x+sin(x)/3"),
+               1.3);
+  ratios.Ratio("sample x^3-2*x+sin(x)/3 as compiled", ours, "compiled",
+               SampleRows([](double x) { return std::pow(x, 3.0) - 2 * x + std::sin(x) / 3; }),
+               1.1);
+  const Work polynomial = Sample(Graph({L"x*x*x-2*x+1"}));
+  ratios.Ratio("sample x*x*x-2*x+1", polynomial, "muParser", SampleMuParser("x*x*x-2*x+1"), 1.0);
+  ratios.Ratio("sample x*x*x-2*x+1 as compiled", polynomial, "compiled",
+               SampleRows([](double x) { return x * x * x - 2 * x + 1; }));
+  ratios.Time("sample three formulas of 150 tokens", Sample(LongestFunctions()), 0.15e6);
+  ratios.Time("sample three of 150 tokens, all distinct", Sample(LongestDistinctFunctions()));
 }
 
-void DrawExact(benchmark::State& state) {
-  const GraphModel graph = Opened(ThreeFunctions());
-  for (auto _ : state) benchmark::DoNotOptimize(BitmapFile(DrawPicture(graph)));
-}
-
-void Redraw(benchmark::State& state, double scale) {
-  const GraphModel graph = Opened(ThreeFunctions());
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(DrawGraphImage(graph, scale, QGuiApplication::font(), Qt::lightGray));
-  }
-}
-
-void CommandToFrame(benchmark::State& state, double scale, GraphData data) {
-  GraphModel graph = Opened(data);
-  for (auto _ : state) {
-    graph.ZoomIn();
-    benchmark::DoNotOptimize(DrawGraphImage(graph, scale, QGuiApplication::font(), Qt::lightGray));
-    state.PauseTiming();
-    graph.Reset();
-    state.ResumeTiming();
-  }
-}
-
-void RegisterAll() {
-  constexpr int kRepetitions = 9;
-  const auto measure = [](const char* name, auto function) {
-    benchmark::RegisterBenchmark(name, function)->Repetitions(kRepetitions)->MinTime(0.1);
+Work Redraw(double scale) {
+  const auto graph = std::make_shared<GraphModel>(Opened(ThreeFunctions()));
+  return [=](std::size_t times) {
+    for (; times > 0; --times) {
+      Use(DrawGraphImage(*graph, scale, QGuiApplication::font(), Qt::lightGray));
+    }
   };
-  measure("sample a formula",
-          [](benchmark::State& s) { Sample(s, Graph({std::wstring(kFormula)})); });
-  measure("sample a formula (muParser)", SampleMuParser);
-  measure("sample a formula (compiled)", SampleCompiled);
-  measure("sample three formulas of 150 tokens",
-          [](benchmark::State& s) { Sample(s, LongestFunctions()); });
-  measure("draw the file", DrawExact);
-  measure("redraw at 1", [](benchmark::State& s) { Redraw(s, 1); });
-  measure("redraw at 1.5", [](benchmark::State& s) { Redraw(s, 1.5); });
-  measure("redraw at 4", [](benchmark::State& s) { Redraw(s, 4); });
-  measure("zoom to frame at 1.5",
-          [](benchmark::State& s) { CommandToFrame(s, 1.5, ThreeFunctions()); });
-  measure("zoom to frame at 4, 150 tokens",
-          [](benchmark::State& s) { CommandToFrame(s, 4, LongestFunctions()); });
 }
 
-void PrintRatio(const MedianReporter& reporter, const char* against) {
-  const std::string name = "sample a formula";
-  if (reporter.Median(name) == 0.0) return;
-  std::printf("ratio %s to %s %.2f\n", name.c_str(), against,
-              reporter.Median(name) / reporter.Median(name + " (" + against + ")"));
+Work CommandToFrame(double scale, const GraphData& data) {
+  const auto graph = std::make_shared<GraphModel>(Opened(data));
+  return [=, right = false](std::size_t times) mutable {
+    for (; times > 0; --times) {
+      right ? graph->MoveRight() : graph->MoveLeft();
+      right = !right;
+      Use(DrawGraphImage(*graph, scale, QGuiApplication::font(), Qt::lightGray));
+    }
+  };
 }
 
-void PrintFrames(const MedianReporter& reporter, const char* name) {
-  if (reporter.Median(name) == 0.0) return;  // filtered out
-  std::printf("%s: %.2f ms, %.0f %% of a frame\n", name, reporter.Median(name) / 1e6,
-              reporter.Median(name) / kFrame * 100);
+void MeasureFrames(Ratios& ratios) {
+  const auto graph = std::make_shared<GraphModel>(Opened(ThreeFunctions()));
+  ratios.Time(
+      "draw the file",
+      [=](std::size_t times) {
+        for (; times > 0; --times) Use(BitmapFile(DrawPicture(*graph)));
+      },
+      kFrame);
+  ratios.Time("redraw at 1", Redraw(1), kFrame);
+  ratios.Time("redraw at 1.5", Redraw(1.5), kFrame);
+  ratios.Time("redraw at 4", Redraw(4), kFrame);
+  ratios.Time("move to frame at 1.5", CommandToFrame(1.5, ThreeFunctions()), kFrame);
+  ratios.Time("move to frame at 4, 150 tokens", CommandToFrame(4, LongestFunctions()), kFrame);
 }
 
 }  // namespace
@@ -164,17 +177,8 @@ int main(int argc, char** argv) {
   // Pictures need no display.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
-  RegisterAll();
-  MedianReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  PrintRatio(reporter, "muParser");
-  PrintRatio(reporter, "compiled");
-  for (const char* name :
-       {"sample three formulas of 150 tokens", "redraw at 1", "redraw at 1.5", "redraw at 4",
-        "zoom to frame at 1.5", "zoom to frame at 4, 150 tokens"}) {
-    PrintFrames(reporter, name);
-  }
-  return EXIT_SUCCESS;
+  Ratios ratios(argv[1]);
+  MeasureSampling(ratios);
+  MeasureFrames(ratios);
+  return ratios.Finish();
 }

@@ -16,7 +16,7 @@
 #include <fstream>
 #include <random>
 
-#include "Ratios.h"
+#include "MedianReporter.h"
 #include "display/MemorySettingsStore.h"
 #include "stats/DataFileAccess.h"
 #include "stats/OneVarScreen.h"

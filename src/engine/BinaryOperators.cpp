@@ -32,17 +32,23 @@ double ShiftedRight(double left, double right) {
 
 template <typename Value>
 constexpr Operation Binary(Value value) {
-  return MakeOperation(true, {}, value);
+  return MakeOperation(Operands::Finite, {}, value);
+}
+
+/// An operation that is not finite where an operand is not.
+template <typename Value>
+constexpr Operation Arithmetic(Value value) {
+  return MakeOperation(Operands::FiniteBySpread, {}, value);
 }
 
 /// An operation that `name` calls and that refuses 0 on the right.
 template <typename Value>
 constexpr Operation RefusingZero(std::wstring_view name, Value value) {
-  return MakeOperation(true, {EngineError{ErrorCode::LimitExceeded, name}}, value,
+  return MakeOperation(Operands::Finite, {EngineError{ErrorCode::LimitExceeded, name}}, value,
                        [](double, double right) { return right == 0.0; });
 }
 
-constexpr Operation kMultiply = Binary([](double left, double right) { return left * right; });
+constexpr Operation kMultiply = Arithmetic([](double left, double right) { return left * right; });
 constexpr Operation kDivide =
     RefusingZero(L"Division", [](double left, double right) { return left / right; });
 constexpr Operation kRemainder =
@@ -52,8 +58,8 @@ constexpr Operation kShiftLeft =
 // Shifting by zero is refused; meant.
 constexpr Operation kShiftRight =
     RefusingZero(L">>", [](double left, double right) { return ShiftedRight(left, right); });
-constexpr Operation kAdd = Binary([](double left, double right) { return left + right; });
-constexpr Operation kSubtract = Binary([](double left, double right) { return left - right; });
+constexpr Operation kAdd = Arithmetic([](double left, double right) { return left + right; });
+constexpr Operation kSubtract = Arithmetic([](double left, double right) { return left - right; });
 
 /// An operation on the bits of the operands as 32-bit integers.
 template <typename Bits>
@@ -72,7 +78,10 @@ constexpr Operation kXnor = Bitwise([](Int left, Int right) { return ~(left ^ ri
 constexpr OperatorPass MakePass(
     std::initializer_list<std::pair<char, const Operation*>> operations) {
   OperatorPass pass{};
-  for (const auto& [op, operation] : operations) pass[static_cast<std::size_t>(op)] = operation;
+  for (const auto& [op, operation] : operations) {
+    pass.operations[static_cast<std::size_t>(op)] = operation;
+    pass.operators |= OperatorBit(static_cast<signed char>(op));
+  }
   return pass;
 }
 

@@ -13,22 +13,26 @@ constexpr EngineError kMissingFactorialArgument{ErrorCode::NeedsArgument, L"!"};
 }  // namespace
 
 void Reduction::ReduceDecimalRange(int lo, int hi) {
+  if (MayHave('F')) ApplyBareFunctions(lo, hi);
+  ApplyPrefixesAndPowers(lo, hi);
+  ApplyPass(kDecimalProducts, lo, hi);
+  ApplyPass(kDecimalSums, lo, hi);
+}
+
+void Reduction::ApplyBareFunctions(int lo, int hi) {
   for (int k = hi - 1; k >= lo; --k) {
     if (At(k).op != 'F') continue;
     ApplyFunctions(k, hi);
     At(k).op = 0;
     At(hi).op = 0;
   }
-  ApplyPrefixesAndPowers(lo, hi);
-  ApplyPass(kDecimalProducts, lo, hi);
-  ApplyPass(kDecimalSums, lo, hi);
 }
 
 void Reduction::ApplyPrefixesAndPowers(int lo, int hi) {
   ApplySigns(lo, hi);
-  ApplyFactorials(lo, hi);
-  ApplyCombinatorics(lo, hi);
-  ApplyPowers(lo, hi);
+  if (MayHave('!')) ApplyFactorials(lo, hi);
+  if (MayHave('c') || MayHave('p')) ApplyCombinatorics(lo, hi);
+  if (MayHave('^')) ApplyPowers(lo, hi);
 }
 
 void Reduction::ApplyFactorials(int lo, int hi) {

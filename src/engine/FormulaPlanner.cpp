@@ -46,6 +46,11 @@ FormulaPlanner::Index FormulaPlanner::Find(const Value& value) {
   return index;
 }
 
+bool FormulaPlanner::IsTested(FormulaProgram::Column column,
+                              const FormulaProgram::Instruction& step) {
+  return (step.testLeft && step.left == column) || (step.testRight && step.right == column);
+}
+
 std::vector<FormulaPlanner::Index> FormulaPlanner::LastUses() const {
   std::vector<Index> uses(values.size());
   for (std::size_t i = 0; i < values.size(); ++i) {
@@ -75,7 +80,7 @@ FormulaProgram FormulaPlanner::Program() const {
     if (values[value].operation && lastUses[value] == at) free.push_back(columns[value]);
   };
   const auto test = [&](const Operation& operation, Index value) {
-    const bool needed = operation.needsFinite && !tested[value];
+    const bool needed = operation.NeedsFinite() && !tested[value];
     if (needed) tested[value] = true;
     return needed;
   };
@@ -94,7 +99,20 @@ FormulaProgram FormulaPlanner::Program() const {
   }
   program.result = columns[result];
   program.testResult = !tested[result];
+  LeaveOutTests(program);
   return program;
+}
+
+void FormulaPlanner::LeaveOutTests(FormulaProgram& program) {
+  for (std::size_t i = 0; i < program.instructions.size(); ++i) {
+    FormulaProgram::Instruction& step = program.instructions[i];
+    if (step.operation->operands != Operands::FiniteBySpread) continue;
+    const bool isLast = i + 1 == program.instructions.size();
+    const bool isTested =
+        isLast ? !program.failure && program.testResult && program.result == step.result
+               : IsTested(step.result, program.instructions[i + 1]);
+    if (isTested) step.testLeft = step.testRight = false;
+  }
 }
 
 }  // namespace vexa

@@ -42,6 +42,11 @@ class FormulaPlanner : private StepTaker {
   /// For each value the last one that is computed from it.
   std::vector<Index> LastUses() const;
 
+  static bool IsTested(FormulaProgram::Column column, const FormulaProgram::Instruction& step);
+  /// Leaves out tests of operands where the next step tests the result, which shows the same:
+  /// nothing else can go wrong in between.
+  static void LeaveOutTests(FormulaProgram& program);
+
   TokenArray records{};
   /// What each record holds; kNone: what it held from the beginning.
   std::array<Index, kTokenRecords> held;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <memory>
 
 #include "engine/FormulaPlanner.h"
 
@@ -45,16 +46,17 @@ void FormulaProgram::Evaluate(std::span<const double> xs, AngleType angle,
   outcome.values.resize(xs.size());
   outcome.errors.assign(xs.size(), nullptr);
   const std::size_t lanes = std::min(xs.size(), kLanes);
-  const std::size_t room = columnCount * lanes;
-  if (outcome.columns.size() < room) outcome.columns.resize(room);
+  if (outcome.room < columnCount * lanes) {
+    outcome.room = columnCount * lanes;
+    outcome.columns = std::make_unique_for_overwrite<double[]>(outcome.room);
+  }
   for (std::size_t i = 0; i < constants.size(); ++i) {
-    std::fill_n(outcome.columns.begin() + static_cast<std::ptrdiff_t>(i * lanes), lanes,
-                constants[i]);
+    std::fill_n(outcome.columns.get() + i * lanes, lanes, constants[i]);
   }
   for (std::size_t start = 0; start < xs.size(); start += lanes) {
     const std::size_t count = std::min(lanes, xs.size() - start);
     Run({xs.subspan(start, count), std::span(outcome.values).subspan(start, count),
-         std::span(outcome.errors).subspan(start, count), outcome.columns.data(), lanes, angle});
+         std::span(outcome.errors).subspan(start, count), outcome.columns.get(), lanes, angle});
   }
 }
 
@@ -74,8 +76,10 @@ void FormulaProgram::Run(const Block& block) const {
   if (failure) return MarkWhere(block.errors, *failure, [](std::size_t) { return true; });
   const double* const values = numbers(result);
   if (testResult) TestFinite(values, block.errors);
+  std::copy_n(values, block.values.size(), block.values.begin());
+  if (std::ranges::all_of(block.errors, [](const EngineError* error) { return !error; })) return;
   for (std::size_t i = 0; i < block.values.size(); ++i) {
-    block.values[i] = block.errors[i] ? 0.0 : values[i];
+    if (block.errors[i]) block.values[i] = 0.0;
   }
 }
 

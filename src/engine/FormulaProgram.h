@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string>
 #include <vector>
@@ -18,7 +19,8 @@ struct FormulaValues {
   /// Null: no error.
   std::vector<const EngineError*> errors{};
   /// Room for what is computed on the way, kept from one evaluation to the next.
-  std::vector<double> columns{};
+  std::unique_ptr<double[]> columns{};
+  std::size_t room = 0;
 
   /// The error's sentence; empty: none.
   std::wstring Sentence(std::size_t index) const;

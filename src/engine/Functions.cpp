@@ -68,7 +68,8 @@ constexpr Keyword Row(std::wstring_view name, std::int32_t code, Value value,
                       Refuses refuses = {}) {
   return {name,
           code,
-          MakeOperation(true, {EngineError{ErrorCode::LimitExceeded, name}}, value, refuses),
+          MakeOperation(Operands::Finite, {EngineError{ErrorCode::LimitExceeded, name}}, value,
+                        refuses),
           {ErrorCode::NeedsArgument, name}};
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "engine/NumberText.h"
 
@@ -43,6 +44,21 @@ DecimalScan ScanDecimal(std::wstring_view text) {
     }
   }
   return scan;
+}
+
+/// Whole numbers of so many digits are doubles.
+constexpr std::size_t kExactDigits = 15;
+
+double DecimalValue(std::wstring_view number, const DecimalScan& scan) {
+  if (scan.points == 0 && scan.exponents == 0 && number.size() <= kExactDigits) {
+    std::int64_t value = 0;
+    for (const wchar_t c : number) value = value * 10 + (c - L'0');
+    return static_cast<double>(value);
+  }
+  std::array<char, kNumberLengthLimit> narrow;
+  std::transform(number.begin(), number.end(), narrow.begin(),
+                 [](wchar_t c) { return static_cast<char>(c); });
+  return TextToDouble(std::string_view(narrow.data(), number.size()));
 }
 
 /// An integer base: its digits, its longest number and the sentence for a longer one.
@@ -111,10 +127,7 @@ std::size_t ReadDecimalNumber(std::wstring_view text, Token& token, TokenList& e
     errors.ReportError(ErrorCode::Expression);
     return 0;
   }
-  std::array<char, kNumberLengthLimit> narrow;
-  std::transform(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(scan.length),
-                 narrow.begin(), [](wchar_t c) { return static_cast<char>(c); });
-  token = {.isOperand = 1, .value = TextToDouble(std::string_view(narrow.data(), scan.length))};
+  token = {.isOperand = 1, .value = DecimalValue(text.substr(0, scan.length), scan)};
   return scan.length;
 }
 

@@ -22,19 +22,29 @@ struct ColumnStep {
   const EngineError** errors;
 };
 
+/// Which operands an operation takes.
+enum class Operands {
+  Any,
+  /// Finite ones; else the error is kOutOfRange.
+  Finite,
+  /// The same, and of others the result would not be finite either: testing the result finds them.
+  FiniteBySpread,
+};
+
 /// What a step of an expression does with its operands, on one pair of numbers and on columns of
 /// them. Both come from the same two functions, so that they agree to the last bit.
 struct Operation {
-  /// Whether the operands have to be finite; else the error is kOutOfRange.
-  bool needsFinite;
+  Operands operands;
   std::array<EngineError, 2> refusals;
   /// Puts the result into `left`, or returns the refusal.
   const EngineError* (*apply)(const Operation& self, double& left, double right, AngleType angle);
   void (*applyToColumns)(const Operation& self, const ColumnStep& step);
 
+  bool NeedsFinite() const { return operands != Operands::Any; }
+
   /// `left` becomes the result. Null, or the error, which leaves `left` as it is.
   const EngineError* Run(double& left, double right, AngleType angle) const {
-    if (needsFinite && !(std::isfinite(left) && std::isfinite(right))) return &kOutOfRange;
+    if (NeedsFinite() && !(std::isfinite(left) && std::isfinite(right))) return &kOutOfRange;
     return apply(*this, left, right, angle);
   }
 };
@@ -102,9 +112,9 @@ void ApplyToColumns(const Operation& self, const ColumnStep& step) {
 /// The operation with this `Value`, a function of one or two numbers, or of one and the angle unit.
 /// `Refuses` has the same operands and gives the number of the refusal, 0: none.
 template <typename Value, typename Refuses = NeverRefuses>
-constexpr Operation MakeOperation(bool needsFinite, const std::array<EngineError, 2>& refusals,
+constexpr Operation MakeOperation(Operands operands, const std::array<EngineError, 2>& refusals,
                                   Value, Refuses = {}) {
-  return {needsFinite, refusals, operation_detail::Apply<Value, Refuses>,
+  return {operands, refusals, operation_detail::Apply<Value, Refuses>,
           operation_detail::ApplyToColumns<Value, Refuses>};
 }
 

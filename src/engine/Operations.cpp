@@ -27,7 +27,7 @@ int ChoiceRefusal(double n, double r) {
 /// nCr or nPr: what its sentences call it, long and short, and how many choices there are.
 template <typename Count>
 constexpr Operation Choice(std::wstring_view name, std::wstring_view shortName, Count count) {
-  return MakeOperation(false,
+  return MakeOperation(Operands::Any,
                        {{{ErrorCode::LimitExceeded, name}, {ErrorCode::NonInteger, shortName}}},
                        count, [](double n, double r) { return ChoiceRefusal(n, r); });
 }
@@ -36,13 +36,13 @@ constexpr auto kPow = [](double left, double right) { return std::pow(left, righ
 
 }  // namespace
 
-constexpr Operation kNegation = MakeOperation(false, {}, [](double x) { return x * -1.0; });
+constexpr Operation kNegation = MakeOperation(Operands::Any, {}, [](double x) { return x * -1.0; });
 
 constexpr Operation kComplement =
-    MakeOperation(false, {}, [](double x) { return static_cast<double>(~ToInt32(x)); });
+    MakeOperation(Operands::Any, {}, [](double x) { return static_cast<double>(~ToInt32(x)); });
 
 constexpr Operation kFactorial = MakeOperation(
-    false, {{{ErrorCode::OutOfRange}, {ErrorCode::NonInteger, L"!"}}},
+    Operands::Any, {{{ErrorCode::OutOfRange}, {ErrorCode::NonInteger, L"!"}}},
     [](double n) { return Factorial(n); }, [](double n) { return FactorialRefusal(n); });
 
 constexpr Operation kCombination = Choice(L"Combination", L"Combi..", [](double n, double r) {
@@ -52,7 +52,7 @@ constexpr Operation kCombination = Choice(L"Combination", L"Combi..", [](double 
 constexpr Operation kPermutation = Choice(
     L"Permutation", L"Permu..", [](double n, double r) { return Factorial(n) / Factorial(n - r); });
 
-constexpr Operation kPower = MakeOperation(false, {}, kPow);
-constexpr Operation kLastPower = MakeOperation(true, {}, kPow);
+constexpr Operation kPower = MakeOperation(Operands::Any, {}, kPow);
+constexpr Operation kLastPower = MakeOperation(Operands::Finite, {}, kPow);
 
 }  // namespace vexa

@@ -6,6 +6,11 @@
 
 namespace vexa {
 
+Reduction::Reduction(TokenArray& tokens, int tokenCount, BaseType base, StepTaker& taker)
+    : records(tokens), count(tokenCount), baseMode(base), steps(taker) {
+  for (int i = 0; i < count; ++i) present |= OperatorBit(At(i).op);
+}
+
 void Reduction::Run() {
   for (int i = 0; i < count && !ended; ++i) {
     if (At(i).op != ')') continue;
@@ -61,9 +66,10 @@ int Reduction::OperandAfter(int index) const {
 }
 
 void Reduction::ApplyPass(const OperatorPass& pass, int lo, int hi) {
+  if ((present & pass.operators) == 0) return;
   for (int k = lo; k < hi; ++k) {
     if (At(k).kind != kOperatorKind) continue;
-    const Operation* const operation = pass[static_cast<std::size_t>(At(k).op) % pass.size()];
+    const Operation* const operation = pass.Find(At(k).op);
     if (operation) ApplyBinary(k, *operation);
   }
 }
@@ -88,17 +94,26 @@ bool Reduction::IsSign(int index) const {
 }
 
 void Reduction::ApplySigns(int lo, int hi) {
-  // A binary sign ends its scan, so a sign behind it stays an operator (5-2*-3); meant.
+  if (MayHave('-')) ApplyMinusSigns(lo, hi);
+  if (MayHave('+')) ApplyPlusSigns(lo, hi);
+}
+
+// A binary sign ends its scan, so a sign behind it stays an operator (5-2*-3); meant.
+
+void Reduction::ApplyMinusSigns(int lo, int hi) {
   for (int k = lo; k < hi; ++k) {
     if (At(k).op != '-') continue;
-    if (!IsSign(k)) break;
+    if (!IsSign(k)) return;
     At(k).op = 0;
     const int operand = OperandAfter(k);
     if (operand < count) ApplyUnary(operand, kNegation);
   }
+}
+
+void Reduction::ApplyPlusSigns(int lo, int hi) {
   for (int k = lo; k < hi; ++k) {
     if (At(k).op != '+') continue;
-    if (!IsSign(k)) break;
+    if (!IsSign(k)) return;
     At(k).op = 0;
   }
 }

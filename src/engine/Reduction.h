@@ -36,12 +36,15 @@ class StepTaker {
 class Reduction {
  public:
   /// Reduces the first `tokenCount` of `tokens`, of which the next one is clear.
-  Reduction(TokenArray& tokens, int tokenCount, BaseType base, StepTaker& taker)
-      : records(tokens), count(tokenCount), baseMode(base), steps(taker) {}
+  Reduction(TokenArray& tokens, int tokenCount, BaseType base, StepTaker& taker);
 
   void Run();
 
  private:
+  /// Whether the expression may have this operator. Most have few kinds, and the searches for the
+  /// others are left out.
+  bool MayHave(signed char op) const { return (present & OperatorBit(op)) != 0; }
+
   Token& At(int index) { return records[static_cast<std::size_t>(index)]; }
   const Token& At(int index) const { return records[static_cast<std::size_t>(index)]; }
 
@@ -49,9 +52,13 @@ class Reduction {
   void ReduceRange(int lo, int hi);
   void ReduceDecimalRange(int lo, int hi);
   void ReduceBaseRange(int lo, int hi);
+  /// Functions without parentheses, from right to left.
+  void ApplyBareFunctions(int lo, int hi);
   /// Signs, factorials, nCr and nPr, powers.
   void ApplyPrefixesAndPowers(int lo, int hi);
   void ApplySigns(int lo, int hi);
+  void ApplyMinusSigns(int lo, int hi);
+  void ApplyPlusSigns(int lo, int hi);
   void ApplyFactorials(int lo, int hi);
   void ApplyCombinatorics(int lo, int hi);
   void ApplyPowers(int lo, int hi);
@@ -82,6 +89,7 @@ class Reduction {
   const int count;
   const BaseType baseMode;
   StepTaker& steps;
+  OperatorSet present = 0;
   bool ended = false;
 };
 

@@ -133,17 +133,17 @@ const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> rec
   int depth = 0;
   for (const Token& token : records) depth += (token.op == '(') - (token.op == ')');
   if (depth != 0) return &kUnmatchedParentheses;
+  // What the record before allows behind itself, and what it is.
+  SymbolSet expected = kAny;
   std::uint8_t previous = IndexOf(kStart);
-  for (std::size_t i = 0; i < records.size(); ++i) {
-    const std::uint8_t current = IndexOf(records[i]);
-    const std::uint8_t next = i + 1 < records.size() ? IndexOf(records[i + 1]) : IndexOf(kEnd);
+  for (const Token& token : records) {
+    const std::uint8_t current = IndexOf(token);
     const Neighbours& allowed = table[current];
-    if (!(allowed.previous & Bit(previous)) || !(allowed.next & Bit(next))) {
-      return &kExpressionError;
-    }
+    if (!(allowed.previous & Bit(previous)) || !(expected & Bit(current))) return &kExpressionError;
+    expected = allowed.next;
     previous = current;
   }
-  return nullptr;
+  return expected & Bit(IndexOf(kEnd)) ? nullptr : &kExpressionError;
 }
 
 void CheckSyntax(SyntaxRules rules, TokenList& list) {

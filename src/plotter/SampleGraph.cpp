@@ -10,8 +10,6 @@ namespace {
 
 using namespace plot_area;
 
-/// One 229th, so that the last of 230 samples falls on the range's end up to rounding.
-constexpr double kStepShare = 0.004366812227074236;
 constexpr int kMiddleRow = kTop + kHeight / 2;
 
 /// Samples one function after the other.
@@ -76,6 +74,7 @@ class Sampler {
 
 /// The pixels of the points that lie in the plot area, in order, each once.
 std::vector<PixelPoint> DataPixels(const std::vector<DataPoint>& points, const PlotRanges& ranges) {
+  if (points.empty()) return {};
   std::bitset<(kWidth + 1) * (kHeight + 1)> taken;
   std::vector<PixelPoint> pixels;
   for (const DataPoint& point : points) {
@@ -91,11 +90,6 @@ std::vector<PixelPoint> DataPixels(const std::vector<DataPoint>& points, const P
 }
 
 }  // namespace
-
-double SampleX(std::size_t index, double xMin, double xMax) {
-  const double step = (xMax - xMin) * kStepShare;
-  return static_cast<double>(index) * step + xMin;
-}
 
 SampledGraph SampleGraph(const GraphData& data, const PlotRanges& ranges) {
   SampledGraph graph;

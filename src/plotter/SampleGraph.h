@@ -26,8 +26,13 @@ struct SampledGraph {
   std::vector<PixelPoint> dataPixels;
 };
 
+/// One 229th, so that the last of 230 samples falls on the range's end up to rounding.
+inline constexpr double kSampleStep = 0.004366812227074236;
+
 /// The value of X at sample `index` of the range from `xMin` to `xMax`.
-double SampleX(std::size_t index, double xMin, double xMax);
+inline double SampleX(std::size_t index, double xMin, double xMax) {
+  return static_cast<double>(static_cast<int>(index)) * ((xMax - xMin) * kSampleStep) + xMin;
+}
 
 /// Samples what `data` shows, over `ranges` instead of the home ranges. A sample that cannot be
 /// evaluated is empty. A curve that leaves the plot area, or enters it, has a point on the edge

@@ -18,7 +18,7 @@ struct BinaryOutcome {
 };
 
 BinaryOutcome Outcome(const OperatorPass& pass, char op, double left, double right) {
-  const Operation* const operation = pass[static_cast<std::size_t>(op)];
+  const Operation* const operation = pass.Find(static_cast<signed char>(op));
   EXPECT_NE(operation, nullptr) << op;
   if (!operation) return {};
   const EngineError* const error = operation->Run(left, right, AngleType::Degrees);
@@ -27,8 +27,10 @@ BinaryOutcome Outcome(const OperatorPass& pass, char op, double left, double rig
 
 std::string OperatorsOf(const OperatorPass& pass) {
   std::string operators;
-  for (std::size_t i = 0; i < pass.size(); ++i) {
-    if (pass[i]) operators += static_cast<char>(i);
+  for (std::size_t i = 0; i < pass.operations.size(); ++i) {
+    if (!pass.operations[i]) continue;
+    operators += static_cast<char>(i);
+    EXPECT_NE(pass.operators & OperatorBit(static_cast<signed char>(i)), 0u);
   }
   return operators;
 }
@@ -133,6 +135,28 @@ TEST(BinaryOperators, OperandsHaveToBeFinite) {
       }
     }
   }
+}
+
+TEST(BinaryOperators, WhatIsNotFiniteSpreads) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const double numbers[] = {0.0,    -0.0,      1.0,        -2.5,        1e308,
+                            5e-324, kInfinity, -kInfinity, std::nan("")};
+  int spreading = 0;
+  for (const OperatorPass* pass : {&kDecimalProducts, &kDecimalSums, &kBaseProducts, &kBaseSums}) {
+    for (const Operation* operation : pass->operations) {
+      if (!operation || operation->operands != Operands::FiniteBySpread) continue;
+      ++spreading;
+      for (const double left : numbers) {
+        for (const double right : numbers) {
+          if (std::isfinite(left) && std::isfinite(right)) continue;
+          double result = left;
+          EXPECT_EQ(operation->apply(*operation, result, right, AngleType::Degrees), nullptr);
+          EXPECT_FALSE(std::isfinite(result)) << left << " " << right;
+        }
+      }
+    }
+  }
+  EXPECT_EQ(spreading, 6);
 }
 
 TEST(BinaryOperators, BitwiseTruthTable) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <limits>
 #include <string>
 
@@ -76,6 +77,21 @@ TEST(DecimalNumber, LengthAndValue) {
       {L"0." + std::wstring(27, L'3') + L"e", 30, 0.333333333333333333333333333},
   };
   for (const NumberCase& c : cases) ExpectNumber(ReadDecimalNumber, c.text, c.length, c.value);
+}
+
+TEST(DecimalNumber, ReadsWhatTheTextIsWorth) {
+  // Whole numbers of every length, and the same with a point and with an exponent.
+  std::string digits;
+  for (std::size_t length = 1; length <= 28; ++length) {
+    digits += static_cast<char>('0' + (7 * length + 2) % 10);
+    for (const std::string& number : {digits, digits + ".", "." + digits, digits + "e3"}) {
+      const std::wstring text(number.begin(), number.end());
+      if (text.size() > 30) continue;
+      ExpectNumber(ReadDecimalNumber, text, text.size(), std::strtod(number.c_str(), nullptr));
+      ExpectNumber(ReadDecimalNumber, text + L"+1", text.size(),
+                   std::strtod(number.c_str(), nullptr));
+    }
+  }
 }
 
 TEST(DecimalNumber, NoNumberStartsOtherwise) {
