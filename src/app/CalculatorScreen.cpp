@@ -11,7 +11,7 @@
 #include "display/WideText.h"
 #include "macros/MacroEditorDialog.h"
 #include "macros/MacroKey.h"
-#include "macros/MemoryMenu.h"
+#include "macros/MemoryPopup.h"
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/EditLine.h"
 #include "toolkit/KeyButton.h"
@@ -154,29 +154,15 @@ void CalculatorScreen::EditConversions() {
 
 void CalculatorScreen::OpenMemoryMenu() {
   Line()->setFocus();
-  ShowPopupMenu(Keys(), Keys()->Button(L"MEM")->geometry().topLeft(), PopupSide::Right,
-                MemoryMenuCommands(calculator.lastError.empty()),
-                [this](int command) { RunMemoryCommand(command); })
-      ->setObjectName(QStringLiteral("Memory"));
-}
-
-void CalculatorScreen::RunMemoryCommand(int command) {
-  switch (static_cast<MemoryCommand>(command)) {
-    case MemoryCommand::Plus:
-      return calculator.AddToMemory();
-    case MemoryCommand::Minus:
-      return calculator.SubtractFromMemory();
-    case MemoryCommand::Recall:
-      return InsertIntoLine(calculator.RecallValueText(calculator.memory));
-    case MemoryCommand::Clear:
-      return calculator.ClearMemory();
-    case MemoryCommand::RecallVariable:
-      return RecallVariable();
-    case MemoryCommand::StoreVariable:
-      return StoreVariable();
-    case MemoryCommand::Separator:
-      break;
-  }
+  ShowMemoryMenu(Keys(), Keys()->Button(L"MEM")->geometry().topLeft(), PopupSide::Right,
+                 MemoryMenuCommands(calculator.lastError.empty()),
+                 {{MemoryCommand::Plus, [this] { calculator.AddToMemory(); }},
+                  {MemoryCommand::Minus, [this] { calculator.SubtractFromMemory(); }},
+                  {MemoryCommand::Recall,
+                   [this] { InsertIntoLine(calculator.RecallValueText(calculator.memory)); }},
+                  {MemoryCommand::Clear, [this] { calculator.ClearMemory(); }},
+                  {MemoryCommand::RecallVariable, [this] { RecallVariable(); }},
+                  {MemoryCommand::StoreVariable, [this] { StoreVariable(); }}});
 }
 
 void CalculatorScreen::RecallVariable() {

@@ -40,7 +40,6 @@ class CalculatorScreen : public ExpressionScreen {
   void ConvertUnits();
   void EditConversions();
   void OpenMemoryMenu();
-  void RunMemoryCommand(int command);
   void RecallVariable();
   void StoreVariable();
   void Configure();

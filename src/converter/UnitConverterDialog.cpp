@@ -10,13 +10,12 @@
 
 #include "converter/UserConversionDialog.h"
 #include "display/WideText.h"
-#include "macros/MemoryMenu.h"
+#include "macros/MemoryPopup.h"
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/KeyButton.h"
 #include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/Keypad.h"
 #include "toolkit/MessageBox.h"
-#include "toolkit/PopupMenu.h"
 #include "toolkit/ResultLine.h"
 #include "toolkit/Theme.h"
 #include "toolkit/TouchComboBox.h"
@@ -258,30 +257,19 @@ void UnitConverterDialog::accept() {
 }
 
 void UnitConverterDialog::OpenMemoryMenu() {
-  ShowPopupMenu(buttons, buttons->rect().bottomRight(), PopupSide::Left,
-                MemoryMenuCommands(converter.HasResult()),
-                [this](int command) { RunMemoryCommand(command); })
-      ->setObjectName(QStringLiteral("Memory"));
+  ShowMemoryMenu(buttons, buttons->rect().bottomRight(), PopupSide::Left,
+                 MemoryMenuCommands(converter.HasResult()),
+                 {{MemoryCommand::Plus, [this] { converter.MemoryPlus(); }},
+                  {MemoryCommand::Minus, [this] { converter.MemoryMinus(); }},
+                  {MemoryCommand::Recall, [this] { RecallMemory(); }},
+                  {MemoryCommand::Clear, [this] { converter.MemoryClear(); }},
+                  {MemoryCommand::RecallVariable, [this] { RecallVariable(); }},
+                  {MemoryCommand::StoreVariable, [this] { StoreVariable(); }}});
 }
 
-void UnitConverterDialog::RunMemoryCommand(int command) {
-  switch (static_cast<MemoryCommand>(command)) {
-    case MemoryCommand::Plus:
-      return converter.MemoryPlus();
-    case MemoryCommand::Minus:
-      return converter.MemoryMinus();
-    case MemoryCommand::Recall:
-      converter.MemoryRecall();
-      return Refresh();
-    case MemoryCommand::Clear:
-      return converter.MemoryClear();
-    case MemoryCommand::RecallVariable:
-      return RecallVariable();
-    case MemoryCommand::StoreVariable:
-      return StoreVariable();
-    case MemoryCommand::Separator:
-      break;
-  }
+void UnitConverterDialog::RecallMemory() {
+  converter.MemoryRecall();
+  Refresh();
 }
 
 void UnitConverterDialog::RecallVariable() {

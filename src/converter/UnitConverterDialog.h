@@ -47,7 +47,7 @@ class UnitConverterDialog : public Dialog {
   void ChooseOutput(int position);
   void EnterText(const QString& text);
   void OpenMemoryMenu();
-  void RunMemoryCommand(int command);
+  void RecallMemory();
   void RecallVariable();
   void StoreVariable();
   void EditConversions();

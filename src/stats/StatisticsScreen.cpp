@@ -10,6 +10,7 @@
 
 #include "display/DisplayFormattingDialog.h"
 #include "display/WideText.h"
+#include "macros/MemoryPopup.h"
 #include "macros/MemoryVariableDialog.h"
 #include "stats/DataEntryForm.h"
 #include "stats/DataFileAccess.h"
@@ -19,7 +20,6 @@
 #include "toolkit/KeyButton.h"
 #include "toolkit/Keypad.h"
 #include "toolkit/MessageBox.h"
-#include "toolkit/PopupMenu.h"
 #include "toolkit/ProgressBox.h"
 #include "toolkit/ResultLine.h"
 #include "toolkit/TouchSize.h"
@@ -312,19 +312,10 @@ void StatisticsScreen::ShowResult(std::wstring_view caption) {
 }
 
 void StatisticsScreen::OpenMemoryMenu() {
-  static constexpr std::pair<MemoryCommand, void (StatisticsScreen::*)()> kCommands[] = {
-      {MemoryCommand::RecallVariable, &StatisticsScreen::RecallVariable},
-      {MemoryCommand::StoreVariable, &StatisticsScreen::StoreVariable},
-  };
-  const QWidget* const key = resultKeys->Button(L"MEM");
-  ShowPopupMenu(resultKeys, key->geometry().topLeft(), PopupSide::Right,
-                statistics.MemoryCommands(),
-                [=, this](int chosen) {
-                  for (const auto& [command, run] : kCommands) {
-                    if (static_cast<int>(command) == chosen) (this->*run)();
-                  }
-                })
-      ->setObjectName(QStringLiteral("Memory"));
+  ShowMemoryMenu(resultKeys, resultKeys->Button(L"MEM")->geometry().topLeft(), PopupSide::Right,
+                 statistics.MemoryCommands(),
+                 {{MemoryCommand::RecallVariable, [this] { RecallVariable(); }},
+                  {MemoryCommand::StoreVariable, [this] { StoreVariable(); }}});
 }
 
 void StatisticsScreen::RecallVariable() {
