@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
-#include <map>
 
 #include "display/WideText.h"
 #include "macros/MemoryVariableDialog.h"
@@ -29,7 +28,6 @@ UserConversionDialog::UserConversionDialog(SettingsStore& settingsStore, QWidget
   BuildFields();
   BuildList({firstName, secondName, rate});
   SetOpeningHeight(kOpeningHeight);
-  ShowViewState();
 }
 
 void UserConversionDialog::BuildFields() {
@@ -59,76 +57,20 @@ void UserConversionDialog::BuildFields() {
   }
 }
 
-void UserConversionDialog::ShowViewState() {
-  std::vector<std::wstring> lines;
-  lines.reserve(static_cast<std::size_t>(editor.Conversions().Count()));
-  for (int i = 0; i < editor.Conversions().Count(); ++i) {
-    lines.push_back(editor.Conversions().At(i).name);
-  }
-  ShowLines(lines, editor.Selected());
-  Refresh();
-  FocusList();
-}
-
-void UserConversionDialog::Refresh() {
-  ShowView(editor.View());
-  const ConversionBoxes& boxes = editor.Boxes();
+void UserConversionDialog::ShowFields() {
+  const ConversionBoxes boxes = editor.ShownBoxes();
   firstName->setText(FromWide(boxes.firstName));
   secondName->setText(FromWide(boxes.secondName));
   rate->setText(FromWide(boxes.rate));
 }
 
-void UserConversionDialog::Focus(ConversionBox box) {
-  const std::map<ConversionBox, QLineEdit*> boxes{{ConversionBox::FirstName, firstName},
-                                                  {ConversionBox::SecondName, secondName},
-                                                  {ConversionBox::Rate, rate}};
-  const auto found = boxes.find(box);
-  if (found == boxes.end()) return;
-  found->second->setFocus();
-  found->second->selectAll();
-}
-
-void UserConversionDialog::New() {
-  const ConversionBox box = editor.New();
-  Refresh();
-  Focus(box);
-}
-
-void UserConversionDialog::Edit() {
-  const ConversionBox box = editor.Edit();
-  Refresh();
-  Focus(box);
+int UserConversionDialog::FirstField(bool isNew) const {
+  return isNew ? UserConversionEditor::FirstName : UserConversionEditor::Rate;
 }
 
 ConversionBoxes UserConversionDialog::Typed() const {
   return {firstName->text().toStdWString(), secondName->text().toStdWString(),
           rate->text().toStdWString()};
-}
-
-bool UserConversionDialog::IsChanged() const {
-  return Typed() != editor.Boxes();
-}
-
-void UserConversionDialog::Save() {
-  const SaveOutcome outcome = editor.Save(Typed());
-  if (!outcome.sentence.empty()) {
-    ShowErrorBox(this, outcome.sentence, [this, box = outcome.focus] { Focus(box); });
-    return;
-  }
-  ShowViewState();
-}
-
-void UserConversionDialog::Cancel() {
-  editor.Cancel();
-  ShowViewState();
-}
-
-void UserConversionDialog::Delete() {
-  if (editor.Selected() < 0) return;
-  AskYesNo(this, std::wstring(kDeleteConversionQuestion), [this] {
-    editor.Delete();
-    ShowViewState();
-  });
 }
 
 void UserConversionDialog::RecallVariable() {
@@ -137,11 +79,6 @@ void UserConversionDialog::RecallVariable() {
           [this](int index) { rate->setText(FromWide(MemoryVariables(store).Text(index))); });
   connect(dialog, &QDialog::finished, rate, qOverload<>(&QWidget::setFocus));
   dialog->open();
-}
-
-void UserConversionDialog::Select(int index) {
-  editor.Select(index);
-  Refresh();
 }
 
 }  // namespace vexa

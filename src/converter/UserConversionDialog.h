@@ -16,22 +16,15 @@ class UserConversionDialog : public ListEditorDialog {
 
  private:
   void BuildFields();
-  /// Shows what the editor says of boxes and buttons.
-  void Refresh();
-  /// Shows the list too, which gets the focus.
-  void ShowViewState();
-  void Focus(ConversionBox box);
   /// What the boxes hold.
   ConversionBoxes Typed() const;
 
-  void New() override;
-  void Edit() override;
-  void Delete() override;
-  void Save() override;
-  void Cancel() override;
+  ListEditor& Editor() override { return editor; }
+  void ShowFields() override;
+  bool IsChanged() const override { return Typed() != editor.ShownBoxes(); }
+  ListEditor::Refusal SaveFields() override { return editor.Save(Typed()); }
+  int FirstField(bool isNew) const override;
   void RecallVariable() override;
-  bool IsChanged() const override;
-  void Select(int index) override;
 
   SettingsStore& store;
   UserConversionEditor editor;

@@ -22,94 +22,63 @@ std::wstring_view Stripped(std::wstring_view name) {
   return name;
 }
 
-SaveOutcome Refusal(std::wstring_view sentence, ConversionBox focus) {
-  return {std::wstring(sentence), focus};
-}
-
 }  // namespace
 
 UserConversionEditor::UserConversionEditor(SettingsStore& settingsStore)
-    : conversions(settingsStore) {
+    : ListEditor(kMaxUserConversions), conversions(settingsStore) {
   conversions.Load();
   Select(0);
 }
 
-ConversionBox UserConversionEditor::New() {
-  editing = true;
-  editedIndex = -1;
-  boxes = {L"", L"", L"0"};
-  return ConversionBox::FirstName;
+std::wstring_view UserConversionEditor::DeleteQuestion() const {
+  return L"Are you sure you want to delete the selected unit convert?";
 }
 
-ConversionBox UserConversionEditor::Edit() {
-  if (selected < 0) return ConversionBox::None;
-  editing = true;
-  editedIndex = selected;
-  return ConversionBox::Rate;
-}
-
-SaveOutcome UserConversionEditor::Save(const ConversionBoxes& typed) {
+ListEditor::Refusal UserConversionEditor::Save(const ConversionBoxes& typed) {
   UserConversion conversion;
-  SaveOutcome outcome = Check(typed, conversion);
-  if (!outcome.sentence.empty()) return outcome;
-  if (editedIndex < 0) {
+  Refusal refusal = Check(typed, conversion);
+  if (!refusal.sentence.empty()) return refusal;
+  if (Edited() < 0) {
     conversions.Add(conversion);
-    editedIndex = conversions.Count() - 1;
+    ShowSaved(Count() - 1);
   } else {
-    conversions.Replace(editedIndex, conversion);
+    conversions.Replace(Edited(), conversion);
+    ShowSaved(Edited());
   }
-  editing = false;
-  Select(editedIndex);
-  return outcome;
+  return {};
 }
 
-void UserConversionEditor::Cancel() {
-  editing = false;
-  Select(selected);
-}
-
-void UserConversionEditor::Delete() {
-  if (selected < 0) return;
-  conversions.Delete(selected);
-  editing = false;
-  Select(std::min(selected, conversions.Count() - 1));
-}
-
-void UserConversionEditor::Select(int position) {
-  selected = position < conversions.Count() ? std::max(position, -1) : -1;
-  boxes = {};
-  if (selected < 0) return;
-  const UserConversion& conversion = conversions.At(selected);
+ConversionBoxes UserConversionEditor::ShownBoxes() const {
+  if (Shown() < 0) return {L"", L"", IsEditing() ? L"0" : L""};
+  const UserConversion& conversion = conversions.At(Shown());
   const ConversionUnits units = SplitConversionName(conversion.name);
-  boxes = {std::wstring(units.input), std::wstring(units.output), conversion.rateText};
+  return {std::wstring(units.input), std::wstring(units.output), conversion.rateText};
 }
 
-SaveOutcome UserConversionEditor::Check(const ConversionBoxes& typed,
-                                        UserConversion& conversion) const {
-  using enum ConversionBox;
+ListEditor::Refusal UserConversionEditor::Check(const ConversionBoxes& typed,
+                                                UserConversion& conversion) const {
   // A full list refuses an edited conversion too; meant.
   if (conversions.Count() >= kMaxUserConversions) {
-    return Refusal(std::wstring(kMaximumReached) + L" " + std::to_wstring(kMaxUserConversions),
-                   None);
+    return {std::wstring(kMaximumReached) + L" " + std::to_wstring(kMaxUserConversions)};
   }
   const std::optional<double> rate = ReadNumberBox(typed.rate);
-  if (!rate) return Refusal(kEnterNumber, Rate);
+  if (!rate) return {std::wstring(kEnterNumber), Rate};
 
   const std::wstring_view first = Stripped(typed.firstName);
   const std::wstring_view second = Stripped(typed.secondName);
-  if (first.empty()) return Refusal(kUnitNameMissing, FirstName);
-  if (second.empty()) return Refusal(kUnitNameMissing, SecondName);
+  if (first.empty()) return {std::wstring(kUnitNameMissing), FirstName};
+  if (second.empty()) return {std::wstring(kUnitNameMissing), SecondName};
   const auto hasArrow = [](std::wstring_view name) {
     return name.find(kConversionArrow) != std::wstring_view::npos;
   };
-  if (hasArrow(first)) return Refusal(kUnitNameInvalid, FirstName);
-  if (hasArrow(second)) return Refusal(kUnitNameInvalid, SecondName);
+  if (hasArrow(first)) return {std::wstring(kUnitNameInvalid), FirstName};
+  if (hasArrow(second)) return {std::wstring(kUnitNameInvalid), SecondName};
 
   conversion.name = ConversionName(first, second);
-  if (conversions.HasOther(editedIndex, conversion.name)) {
-    return Refusal(conversion.name + std::wstring(kExistsAlready), FirstName);
+  if (conversions.HasOther(Edited(), conversion.name)) {
+    return {conversion.name + std::wstring(kExistsAlready), FirstName};
   }
-  if (*rate == 0) return Refusal(kRateInvalid, Rate);
+  if (*rate == 0) return {std::wstring(kRateInvalid), Rate};
   conversion.rateText = typed.rate;
   // A stored rate ends at its first ",": grouping is for the eye only.
   std::erase(conversion.rateText, L',');

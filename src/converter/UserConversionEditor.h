@@ -5,16 +5,9 @@
 
 #include "converter/UserConversions.h"
 #include "display/SettingsStore.h"
-#include "toolkit/ListEditorView.h"
+#include "toolkit/ListEditor.h"
 
 namespace vexa {
-
-/// What the screen asks, Yes or No, before Delete.
-inline constexpr std::wstring_view kDeleteConversionQuestion =
-    L"Are you sure you want to delete the selected unit convert?";
-
-/// The boxes of the editor; None where the focus stays.
-enum class ConversionBox { None, FirstName, SecondName, Rate };
 
 /// The texts of the editor's boxes.
 struct ConversionBoxes {
@@ -25,54 +18,36 @@ struct ConversionBoxes {
   bool operator==(const ConversionBoxes&) const = default;
 };
 
-/// Why Save was refused and where the focus goes; an empty sentence: saved.
-struct SaveOutcome {
-  std::wstring sentence;
-  ConversionBox focus = ConversionBox::None;
-};
-
-/// The editor of the user's conversions without its window.
-class UserConversionEditor {
+/// The editor of the user's conversions without its window: the conversions and the checks before
+/// one is saved.
+class UserConversionEditor : public ListEditor {
  public:
+  /// The boxes of the editor.
+  enum Box : int { FirstName, SecondName, Rate };
+
   /// Reads the conversions; the view state, the first one selected. `settingsStore` must outlive
   /// the editor.
   explicit UserConversionEditor(SettingsStore& settingsStore);
 
-  /// Starts a new conversion with empty names and rate 0. Returns the box that gets the focus.
-  ConversionBox New();
-  /// Starts to edit the selected conversion. Returns the box that gets the focus; None when nothing
-  /// is selected and nothing happened.
-  ConversionBox Edit();
+  int Count() const override { return conversions.Count(); }
+  std::wstring Line(int index) const override { return conversions.At(index).name; }
+  std::wstring_view DeleteQuestion() const override;
+
   /// Checks what was typed and stores it: then the view state, the saved conversion selected. A
   /// refusal changes nothing.
-  SaveOutcome Save(const ConversionBoxes& typed);
-  /// Back to the view state without saving.
-  void Cancel();
-  /// Removes the selected conversion, if any, and selects the one that takes its place, or the
-  /// last.
-  void Delete();
-  /// Selects a conversion of the list; a position outside it selects nothing.
-  void Select(int position);
+  Refusal Save(const ConversionBoxes& typed);
 
-  ListEditorView View() const {
-    return ViewOfListEditor(editing, conversions.Count(), kMaxUserConversions);
-  }
-  bool IsEditing() const { return editing; }
   const UserConversions& Conversions() const { return conversions; }
-  /// The list's selected position; -1: none.
-  int Selected() const { return selected; }
-  /// What the boxes hold after every operation but a refused Save, which leaves them as typed.
-  const ConversionBoxes& Boxes() const { return boxes; }
+  /// What the boxes show: a new conversion's empty names and rate 0, or the selected conversion.
+  ConversionBoxes ShownBoxes() const;
+
+ protected:
+  void Remove(int index) override { conversions.Delete(index); }
 
  private:
-  SaveOutcome Check(const ConversionBoxes& typed, UserConversion& conversion) const;
+  Refusal Check(const ConversionBoxes& typed, UserConversion& conversion) const;
 
   UserConversions conversions;
-  bool editing = false;
-  /// Position of the conversion that is edited; -1: a new one.
-  int editedIndex = -1;
-  int selected = -1;
-  ConversionBoxes boxes;
 };
 
 }  // namespace vexa

@@ -15,35 +15,28 @@ double ReadRate(std::wstring_view rateText) {
 void UserConversions::Load() {
   const int count =
       settings::ClampCount(Read(store, settings::kConversionCount), kMaxUserConversions);
-  conversions.clear();
+  records.clear();
   for (int i = 0; i < count; ++i) {
-    conversions.push_back(
+    records.push_back(
         {Read(store, settings::kConversionName, i), Read(store, settings::kConversionRate, i)});
   }
 }
 
 void UserConversions::Add(const UserConversion& conversion) {
-  conversions.push_back(conversion);
+  records.push_back(conversion);
   WriteConversion(Count() - 1);
   WriteCount();
 }
 
 void UserConversions::Replace(int index, const UserConversion& conversion) {
-  conversions[static_cast<std::size_t>(index)] = conversion;
+  Changed(index) = conversion;
   WriteConversion(index);
 }
 
 void UserConversions::Delete(int index) {
-  conversions.erase(conversions.begin() + index);
+  records.erase(records.begin() + index);
   for (int i = 0; i < Count(); ++i) WriteConversion(i);
   WriteCount();
-}
-
-bool UserConversions::HasOther(int index, std::wstring_view name) const {
-  for (int i = 0; i < Count(); ++i) {
-    if (i != index && At(i).name == name) return true;
-  }
-  return false;
 }
 
 void UserConversions::WriteConversion(int index) {

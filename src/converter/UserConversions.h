@@ -2,10 +2,10 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "converter/UnitTables.h"
 #include "display/SettingsStore.h"
+#include "toolkit/NamedRecords.h"
 
 namespace vexa {
 
@@ -25,7 +25,7 @@ struct UserConversion {
 double ReadRate(std::wstring_view rateText);
 
 /// The stored conversions, in order. Every change is written to the store at once.
-class UserConversions {
+class UserConversions : public NamedRecords<UserConversion> {
  public:
   /// Works on `settingsStore`, which must outlive the list. Empty until Load.
   explicit UserConversions(SettingsStore& settingsStore) : store(settingsStore) {}
@@ -40,17 +40,11 @@ class UserConversions {
   /// their numbers stay equal to the positions.
   void Delete(int index);
 
-  int Count() const { return static_cast<int>(conversions.size()); }
-  const UserConversion& At(int index) const { return conversions[static_cast<std::size_t>(index)]; }
-  /// Whether a conversion at another position than `index` has exactly this name.
-  bool HasOther(int index, std::wstring_view name) const;
-
  private:
   void WriteConversion(int index);
   void WriteCount();
 
   SettingsStore& store;
-  std::vector<UserConversion> conversions;
 };
 
 }  // namespace vexa

@@ -1,7 +1,5 @@
 #include "macros/MacroEditor.h"
 
-#include <algorithm>
-
 #include "toolkit/LineText.h"
 
 namespace vexa {
@@ -21,35 +19,28 @@ int TypeIndex(std::wstring_view storedText) {
 
 }  // namespace
 
-MacroEditor::MacroEditor(SettingsStore& settingsStore) : macros(settingsStore) {
+MacroEditor::MacroEditor(SettingsStore& settingsStore)
+    : ListEditor(kMaxMacros), macros(settingsStore) {
   macros.LoadMacroTable();
-  selected = std::min(0, macros.Count() - 1);
+  Select(0);
 }
 
-void MacroEditor::New() {
-  editing = true;
-  edited = -1;
+std::wstring_view MacroEditor::DeleteQuestion() const {
+  return L"Are you sure you want to delete the selected macro?";
 }
 
-void MacroEditor::Edit() {
-  if (selected < 0) return;
-  editing = true;
-  edited = selected;
-}
-
-MacroEditor::Refusal MacroEditor::Save(const Fields& fields) {
+ListEditor::Refusal MacroEditor::Save(const Fields& fields) {
   const Fields trimmed{Trimmed(fields.name), fields.type, Trimmed(fields.formula)};
   Refusal refusal = Check(trimmed);
   if (!refusal.sentence.empty()) return refusal;
   const std::wstring_view type = kMacroTypes[static_cast<std::size_t>(trimmed.type)].storedText;
-  if (edited < 0) {
+  if (Edited() < 0) {
     macros.AddMacro(trimmed.name, type, trimmed.formula);
-    selected = macros.Count() - 1;
+    ShowSaved(Count() - 1);
   } else {
-    macros.ReplaceMacro(edited, trimmed.name, type, trimmed.formula);
-    selected = edited;
+    macros.ReplaceMacro(Edited(), trimmed.name, type, trimmed.formula);
+    ShowSaved(Edited());
   }
-  editing = false;
   return {};
 }
 
@@ -57,45 +48,33 @@ std::wstring_view MacroEditor::CheckFormulaLength(std::size_t length) {
   return length > kMaxFormulaLength ? kFormulaTooLong : std::wstring_view{};
 }
 
-void MacroEditor::Cancel() {
-  editing = false;
-}
-
-void MacroEditor::Delete() {
-  if (selected < 0) return;
-  macros.DeleteMacro(selected);
-  selected = std::min(selected, macros.Count() - 1);
-}
-
 MacroEditor::Fields MacroEditor::ShownFields() const {
-  const int index = editing ? edited : selected;
+  const int index = Shown();
   if (index < 0) return {};
   const Macro& macro = macros.At(index);
   return {macro.name, TypeIndex(macro.type), LineText(macros.ReadFormula(index))};
 }
 
-MacroEditor::Refusal MacroEditor::Check(const Fields& trimmed) const {
+ListEditor::Refusal MacroEditor::Check(const Fields& trimmed) const {
   // A full table refuses changes of its macros too; meant.
   if (macros.Count() >= kMaxMacros) {
-    return {L"Maximum of macro is " + std::to_wstring(kMaxMacros), Field::Name};
+    return {L"Maximum of macro is " + std::to_wstring(kMaxMacros), Name};
   }
-  if (trimmed.name.empty()) return {L"Macro Name is NULL", Field::Name};
+  if (trimmed.name.empty()) return {L"Macro Name is NULL", Name};
   if (trimmed.name.find_first_of(kForbiddenInNames) != std::wstring::npos) {
-    return {L"Can not use '(',')',':' in Macro Name.", Field::Name};
+    return {L"Can not use '(',')',':' in Macro Name.", Name};
   }
-  for (int i = 0; i < macros.Count(); ++i) {
-    if (i != edited && macros.At(i).name == trimmed.name) {
-      return {trimmed.name + L" exists already.", Field::Name};
-    }
+  if (macros.HasOther(Edited(), trimmed.name)) {
+    return {trimmed.name + L" exists already.", Name};
   }
-  if (trimmed.type < 0) return {L"Argument Type is NULL", Field::Type};
-  if (trimmed.formula.empty()) return {L"Macro Expression is NULL", Field::Formula};
+  if (trimmed.type < 0) return {L"Argument Type is NULL", Type};
+  if (trimmed.formula.empty()) return {L"Macro Expression is NULL", Formula};
   const std::wstring_view tooLong = CheckFormulaLength(trimmed.formula.size());
-  if (!tooLong.empty()) return {std::wstring(tooLong), Field::Formula};
+  if (!tooLong.empty()) return {std::wstring(tooLong), Formula};
   ExprParser parser;
   parser.formulaType = kMacroTypes[static_cast<std::size_t>(trimmed.type)].formulaType;
   parser.Validate(trimmed.formula);
-  return {parser.errorText, Field::Formula};
+  return {parser.errorText, Formula};
 }
 
 }  // namespace vexa

@@ -28,7 +28,6 @@ MacroEditorDialog::MacroEditorDialog(SettingsStore& settingsStore, QWidget* pare
   BuildFields();
   BuildList({name, type, formula});
   SetOpeningHeight(kOpeningHeight);
-  ShowViewState();
 }
 
 void MacroEditorDialog::BuildFields() {
@@ -55,62 +54,11 @@ bool MacroEditorDialog::IsChanged() const {
   return Typed() != editor.ShownFields();
 }
 
-std::array<QWidget*, 3> MacroEditorDialog::Fields() const {
-  return {name, type, formula};
-}
-
-void MacroEditorDialog::Refresh() {
-  ShowView(editor.View());
+void MacroEditorDialog::ShowFields() {
   const MacroEditor::Fields shown = editor.ShownFields();
   name->setText(FromWide(shown.name));
   type->setCurrentIndex(shown.type);
   formula->setPlainText(FromWide(shown.formula));
-}
-
-void MacroEditorDialog::New() {
-  editor.New();
-  Refresh();
-  name->setFocus();
-}
-
-void MacroEditorDialog::Edit() {
-  editor.Edit();
-  Refresh();
-  if (editor.IsEditing()) name->setFocus();
-}
-
-void MacroEditorDialog::Delete() {
-  if (editor.Selected() < 0) return;
-  AskYesNo(this, std::wstring(MacroEditor::kDeleteQuestion), [this] {
-    editor.Delete();
-    ShowViewState();
-  });
-}
-
-void MacroEditorDialog::Save() {
-  const MacroEditor::Refusal refusal = editor.Save(Typed());
-  if (!refusal.sentence.empty()) {
-    QWidget* const field = Fields()[static_cast<std::size_t>(refusal.field)];
-    ShowErrorBox(this, refusal.sentence, [field] { field->setFocus(); });
-    return;
-  }
-  ShowViewState();
-}
-
-void MacroEditorDialog::Cancel() {
-  editor.Cancel();
-  ShowViewState();
-}
-
-void MacroEditorDialog::ShowViewState() {
-  std::vector<std::wstring> lines;
-  lines.reserve(static_cast<std::size_t>(editor.Macros().Count()));
-  for (int i = 0; i < editor.Macros().Count(); ++i) {
-    lines.push_back(MacroLine(editor.Macros().At(i)));
-  }
-  ShowLines(lines, editor.Selected());
-  Refresh();
-  FocusList();
 }
 
 void MacroEditorDialog::RecallVariable() {
@@ -128,11 +76,6 @@ void MacroEditorDialog::InsertVariable(int index) {
       MacroEditor::CheckFormulaLength(Apply(before, change).text.size());
   if (tooLong.empty()) return formula->ApplyChange(change);
   ShowErrorBox(this, std::wstring(tooLong), [this] { formula->setFocus(); });
-}
-
-void MacroEditorDialog::Select(int index) {
-  editor.Select(index);
-  Refresh();
 }
 
 }  // namespace vexa

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "macros/MacroEditor.h"
 #include "toolkit/ListEditorDialog.h"
 
@@ -21,24 +19,16 @@ class MacroEditorDialog : public ListEditorDialog {
 
  private:
   void BuildFields();
-  /// Shows what the editor says of fields and buttons.
-  void Refresh();
-  /// Shows the list too, which gets the focus.
-  void ShowViewState();
   void InsertVariable(int index);
   /// What the fields hold.
   MacroEditor::Fields Typed() const;
-  /// The fields in the order of MacroEditor::Field.
-  std::array<QWidget*, 3> Fields() const;
 
-  void New() override;
-  void Edit() override;
-  void Delete() override;
-  void Save() override;
-  void Cancel() override;
-  void RecallVariable() override;
+  ListEditor& Editor() override { return editor; }
+  void ShowFields() override;
   bool IsChanged() const override;
-  void Select(int index) override;
+  ListEditor::Refusal SaveFields() override { return editor.Save(Typed()); }
+  int FirstField(bool) const override { return MacroEditor::Name; }
+  void RecallVariable() override;
 
   SettingsStore& store;
   MacroEditor editor;

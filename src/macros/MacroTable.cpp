@@ -22,9 +22,9 @@ MacroCall CallOf(const Macro& macro) {
 
 void MacroTable::LoadMacroTable() {
   const int count = settings::ClampCount(Read(store, settings::kMacroCount), kMaxMacros);
-  macros.clear();
+  records.clear();
   for (int i = 0; i < count; ++i) {
-    macros.push_back({Read(store, settings::kMacroName, i), Read(store, settings::kMacroType, i)});
+    records.push_back({Read(store, settings::kMacroName, i), Read(store, settings::kMacroType, i)});
   }
 }
 
@@ -36,30 +36,22 @@ void MacroTable::AddMacro(std::wstring_view name, std::wstring_view type,
                           std::wstring_view formula) {
   const Macro macro{std::wstring(name), std::wstring(type)};
   WriteMacro(Count(), macro, formula);
-  macros.push_back(macro);
+  records.push_back(macro);
   Write(store, settings::kMacroCount, Count());
 }
 
 void MacroTable::ReplaceMacro(int index, std::wstring_view name, std::wstring_view type,
                               std::wstring_view formula) {
-  Macro& macro = macros[static_cast<std::size_t>(index)];
-  macro = {std::wstring(name), std::wstring(type)};
-  WriteMacro(index, macro, formula);
+  Changed(index) = {std::wstring(name), std::wstring(type)};
+  WriteMacro(index, At(index), formula);
 }
 
 void MacroTable::DeleteMacro(int index) {
   for (int i = index; i + 1 < Count(); ++i) WriteMacro(i, At(i + 1), ReadFormula(i + 1));
-  macros.erase(macros.begin() + index);
+  records.erase(records.begin() + index);
   // The section behind the last macro is emptied, not removed: the store has no removal.
   WriteMacro(Count(), {}, L"");
   Write(store, settings::kMacroCount, Count());
-}
-
-std::optional<int> MacroTable::Find(std::wstring_view name) const {
-  const auto found =
-      std::find_if(macros.begin(), macros.end(), [&](const Macro& m) { return m.name == name; });
-  if (found == macros.end()) return std::nullopt;
-  return static_cast<int>(found - macros.begin());
 }
 
 void MacroTable::WriteMacro(int index, const Macro& macro, std::wstring_view formula) {

@@ -1,13 +1,12 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "display/SettingsStore.h"
 #include "engine/ExprParser.h"
+#include "toolkit/NamedRecords.h"
 
 namespace vexa {
 
@@ -56,7 +55,7 @@ struct MacroCall {
 MacroCall CallOf(const Macro& macro);
 
 /// The stored macros' names and types, in order. Every change is written to the store at once.
-class MacroTable {
+class MacroTable : public NamedRecords<Macro> {
  public:
   /// Works on `settingsStore`, which must outlive the table. Empty until LoadMacroTable.
   explicit MacroTable(SettingsStore& settingsStore) : store(settingsStore) {}
@@ -73,16 +72,10 @@ class MacroTable {
   /// Removes macro `index`; the ones behind it move down, and the last stored section is emptied.
   void DeleteMacro(int index);
 
-  int Count() const { return static_cast<int>(macros.size()); }
-  const Macro& At(int index) const { return macros[static_cast<std::size_t>(index)]; }
-  /// Index of the first macro with exactly this name.
-  std::optional<int> Find(std::wstring_view name) const;
-
  private:
   void WriteMacro(int index, const Macro& macro, std::wstring_view formula);
 
   SettingsStore& store;
-  std::vector<Macro> macros;
 };
 
 }  // namespace vexa

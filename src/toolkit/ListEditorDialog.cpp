@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <utility>
 
@@ -26,7 +27,10 @@ void ListEditorDialog::BuildList(std::vector<QWidget*> editedFields) {
   listLabel = AddField(L"List", list, 1);
   for (QWidget* const field : fields) theme::KeepReadable(field);
   theme::KeepReadable(list);
-  connect(list, &QListWidget::itemSelectionChanged, this, [this] { Select(list->SelectedRow()); });
+  connect(list, &QListWidget::itemSelectionChanged, this, [this] {
+    Editor().Select(list->SelectedRow());
+    Refresh();
+  });
   QHBoxLayout* const row = AddButtonRow();
   newButton = AddButton(row, L"New", this, &ListEditorDialog::New);
   editButton = AddButton(row, L"Edit", this, &ListEditorDialog::Edit);
@@ -35,17 +39,21 @@ void ListEditorDialog::BuildList(std::vector<QWidget*> editedFields) {
   memoryButton = AddButton(row, L"MEM", this, &ListEditorDialog::RecallVariable);
   saveButton = AddButton(row, L"Save", this, &ListEditorDialog::Save);
   cancelButton = AddButton(row, L"Cancel", this, &ListEditorDialog::Cancel);
+  ShowViewState();
 }
 
-void ListEditorDialog::ShowLines(const std::vector<std::wstring>& lines, int selected) {
+void ListEditorDialog::ShowViewState() {
+  const ListEditor& editor = Editor();
   const QSignalBlocker blocker(list);
   list->clear();
-  for (const std::wstring& line : lines) list->AddLine(FromWide(line));
-  list->SelectRow(selected);
+  for (int i = 0; i < editor.Count(); ++i) list->AddLine(FromWide(editor.Line(i)));
+  list->SelectRow(editor.Selected());
+  Refresh();
+  list->setFocus();
 }
 
-void ListEditorDialog::ShowView(const ListEditorView& view) {
-  editing = view.fieldsEnabled;
+void ListEditorDialog::Refresh() {
+  const ListEditorView view = Editor().View();
   listLabel->setText(FromWide(view.listLabel));
   list->setEnabled(view.listEnabled);
   for (QWidget* const field : fields) field->setEnabled(view.fieldsEnabled);
@@ -61,15 +69,53 @@ void ListEditorDialog::ShowView(const ListEditorView& view) {
       if (isShown == shown) button->setVisible(shown);
     }
   }
-  SetDefault(editing ? saveButton : closeButton);
+  SetDefault(view.saveShown ? saveButton : closeButton);
+  ShowFields();
 }
 
-void ListEditorDialog::FocusList() {
-  list->setFocus();
+void ListEditorDialog::FocusField(int field) {
+  if (field == ListEditor::kNoField) return;
+  QWidget* const focused = fields[static_cast<std::size_t>(field)];
+  focused->setFocus();
+  if (auto* const line = qobject_cast<QLineEdit*>(focused)) line->selectAll();
+}
+
+void ListEditorDialog::New() {
+  Editor().New();
+  BeginEditing(true);
+}
+
+void ListEditorDialog::Edit() {
+  Editor().Edit();
+  if (Editor().IsEditing()) BeginEditing(false);
+}
+
+void ListEditorDialog::BeginEditing(bool isNew) {
+  Refresh();
+  FocusField(FirstField(isNew));
+}
+
+void ListEditorDialog::Delete() {
+  if (Editor().Selected() < 0) return;
+  AskYesNo(this, std::wstring(Editor().DeleteQuestion()), [this] {
+    Editor().Delete();
+    ShowViewState();
+  });
+}
+
+void ListEditorDialog::Save() {
+  const ListEditor::Refusal refusal = SaveFields();
+  if (refusal.sentence.empty()) return ShowViewState();
+  ShowErrorBox(this, refusal.sentence, [this, field = refusal.field] { FocusField(field); });
+}
+
+void ListEditorDialog::Cancel() {
+  Editor().Cancel();
+  ShowViewState();
 }
 
 void ListEditorDialog::reject() {
-  if (!editing) return Dialog::reject();
+  if (!Editor().IsEditing()) return Dialog::reject();
   if (!IsChanged()) return Cancel();
   AskToDiscard(this, [this] { Cancel(); });
 }

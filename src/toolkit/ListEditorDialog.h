@@ -4,14 +4,14 @@
 #include <vector>
 
 #include "toolkit/Dialog.h"
-#include "toolkit/ListEditorView.h"
+#include "toolkit/ListEditor.h"
 
 namespace vexa {
 
 class TouchList;
 
-/// The dialog of an editor of a list: fields on top, then the list and the buttons of its two
-/// states. A derived dialog adds its fields, then calls BuildList, and says what each button does.
+/// The dialog of a list's editor: fields on top, then the list and the buttons of its two states. A
+/// derived dialog adds its fields, then calls BuildList, and says what is in the fields.
 class ListEditorDialog : public Dialog {
   Q_OBJECT
 
@@ -23,27 +23,36 @@ class ListEditorDialog : public Dialog {
  protected:
   using Dialog::Dialog;
 
-  /// Adds the list and the buttons. `editedFields` are enabled while editing.
+  /// Adds the list and the buttons, and shows the view state. `editedFields`, in the order in which
+  /// refusals count them, are enabled while editing.
   void BuildList(std::vector<QWidget*> editedFields);
-  /// Fills the list and selects a line, -1: none.
-  void ShowLines(const std::vector<std::wstring>& lines, int selected);
-  /// Shows and enables what `view` says.
-  void ShowView(const ListEditorView& view);
-  void FocusList();
+  /// Gives a field the focus, with its text selected where it is one line.
+  void FocusField(int field);
 
-  virtual void New() = 0;
-  virtual void Edit() = 0;
-  virtual void Delete() = 0;
-  virtual void Save() = 0;
-  virtual void Cancel() = 0;
-  virtual void RecallVariable() = 0;
-  /// Whether the edited fields hold anything else than when the editing began.
+  /// The list's rules, which the derived dialog holds.
+  virtual ListEditor& Editor() = 0;
+  /// Puts what the rules say into the fields.
+  virtual void ShowFields() = 0;
+  /// Whether the fields hold anything else than what ShowFields puts there.
   virtual bool IsChanged() const = 0;
-  /// Line `index` of the list was selected; -1: none is.
-  virtual void Select(int index) = 0;
+  /// Saves what the fields hold.
+  virtual ListEditor::Refusal SaveFields() = 0;
+  /// The field in which the editing of a new or of a stored entry begins.
+  virtual int FirstField(bool isNew) const = 0;
+  virtual void RecallVariable() = 0;
 
  private:
-  bool editing = false;
+  void New();
+  void Edit();
+  void Delete();
+  void Save();
+  void Cancel();
+  void BeginEditing(bool isNew);
+  /// Shows the list too, which gets the focus.
+  void ShowViewState();
+  /// Shows and enables what the rules say.
+  void Refresh();
+
   std::vector<QWidget*> fields;
   QLabel* listLabel = nullptr;
   TouchList* list = nullptr;

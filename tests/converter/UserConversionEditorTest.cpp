@@ -56,7 +56,7 @@ TEST(UserConversionEditor, OpensInTheViewStateWithTheFirstSelected) {
   EXPECT_EQ(editor.View().listLabel, L"List(2/60)");
   EXPECT_TRUE(editor.View().closeShown);
   EXPECT_EQ(editor.Selected(), 0);
-  ExpectBoxes(editor.Boxes(), L"A0", L"B0", L"1.5");
+  ExpectBoxes(editor.ShownBoxes(), L"A0", L"B0", L"1.5");
   EXPECT_TRUE(store.writes.empty());
 }
 
@@ -64,7 +64,7 @@ TEST(UserConversionEditor, OpensEmptyWithNothingSelected) {
   RecordingStore store;
   UserConversionEditor editor(store);
   EXPECT_EQ(editor.Selected(), -1);
-  ExpectBoxes(editor.Boxes(), L"", L"", L"");
+  ExpectBoxes(editor.ShownBoxes(), L"", L"", L"");
 }
 
 TEST(UserConversionEditor, SelectingShowsTheConversion) {
@@ -72,12 +72,12 @@ TEST(UserConversionEditor, SelectingShowsTheConversion) {
   UserConversionEditor editor(store);
   editor.Select(1);
   EXPECT_EQ(editor.Selected(), 1);
-  ExpectBoxes(editor.Boxes(), L"A1", L"B1", L"2.5");
+  ExpectBoxes(editor.ShownBoxes(), L"A1", L"B1", L"2.5");
   EXPECT_FALSE(editor.View().fieldsEnabled);
   for (const int outside : {2, -1, -100, 60}) {
     editor.Select(outside);
     EXPECT_EQ(editor.Selected(), -1) << outside;
-    ExpectBoxes(editor.Boxes(), L"", L"", L"");
+    ExpectBoxes(editor.ShownBoxes(), L"", L"", L"");
   }
 }
 
@@ -85,8 +85,8 @@ TEST(UserConversionEditor, NewEmptiesTheBoxes) {
   RecordingStore store = StoreWithConversions(2);
   UserConversionEditor editor(store);
   editor.Select(0);
-  EXPECT_EQ(editor.New(), ConversionBox::FirstName);
-  ExpectBoxes(editor.Boxes(), L"", L"", L"0");
+  editor.New();
+  ExpectBoxes(editor.ShownBoxes(), L"", L"", L"0");
   EXPECT_TRUE(editor.View().saveShown);
 }
 
@@ -94,11 +94,11 @@ TEST(UserConversionEditor, EditNeedsASelection) {
   RecordingStore store = StoreWithConversions(2);
   UserConversionEditor editor(store);
   editor.Select(-1);
-  EXPECT_EQ(editor.Edit(), ConversionBox::None);
+  editor.Edit();
   EXPECT_FALSE(editor.View().saveShown);
   editor.Select(1);
-  EXPECT_EQ(editor.Edit(), ConversionBox::Rate);
-  ExpectBoxes(editor.Boxes(), L"A1", L"B1", L"2.5");
+  editor.Edit();
+  ExpectBoxes(editor.ShownBoxes(), L"A1", L"B1", L"2.5");
   EXPECT_TRUE(editor.View().saveShown);
 }
 
@@ -110,7 +110,7 @@ TEST(UserConversionEditor, CancelRestoresTheSelectedConversion) {
   editor.Cancel();
   EXPECT_FALSE(editor.View().saveShown);
   EXPECT_EQ(editor.Selected(), 1);
-  ExpectBoxes(editor.Boxes(), L"A1", L"B1", L"2.5");
+  ExpectBoxes(editor.ShownBoxes(), L"A1", L"B1", L"2.5");
   EXPECT_TRUE(store.writes.empty());
 }
 
@@ -118,7 +118,7 @@ TEST(UserConversionEditor, SavesANewConversion) {
   RecordingStore store;
   UserConversionEditor editor(store);
   editor.New();
-  const SaveOutcome outcome = editor.Save({L"  Inch ", L"Centi meter  ", L" 2.540"});
+  const ListEditor::Refusal outcome = editor.Save({L"  Inch ", L"Centi meter  ", L" 2.540"});
   EXPECT_EQ(outcome.sentence, L"");
   EXPECT_EQ(store.writes,
             (Lines{L"UserDefine_Convert_0/ConvType=Inch -> Centi meter",
@@ -126,7 +126,7 @@ TEST(UserConversionEditor, SavesANewConversion) {
   EXPECT_EQ(editor.Selected(), 0);
   EXPECT_TRUE(editor.View().closeShown);
   EXPECT_EQ(editor.View().listLabel, L"List(1/60)");
-  ExpectBoxes(editor.Boxes(), L"Inch", L"Centi meter", L" 2.540");
+  ExpectBoxes(editor.ShownBoxes(), L"Inch", L"Centi meter", L" 2.540");
 }
 
 TEST(UserConversionEditor, NewGoesBehindTheOthersWhateverIsSelected) {
@@ -149,7 +149,7 @@ TEST(UserConversionEditor, SavesAnEditedConversionInPlace) {
   EXPECT_EQ(store.writes,
             (Lines{L"UserDefine_Convert_1/ConvType=A1 -> B1", L"UserDefine_Convert_1/Rate=7"}));
   EXPECT_EQ(editor.Selected(), 1);
-  ExpectBoxes(editor.Boxes(), L"A1", L"B1", L"7");
+  ExpectBoxes(editor.ShownBoxes(), L"A1", L"B1", L"7");
   EXPECT_EQ(editor.View().listLabel, L"List(3/60)");
 }
 
@@ -159,34 +159,34 @@ TEST(UserConversionEditor, RefusalsInOrder) {
   const struct {
     ConversionBoxes typed;
     std::wstring_view sentence;
-    ConversionBox focus;
+    int focus;
   } cases[] = {
-      {{L" ", L"", L"one"}, L"Please enter a number.", ConversionBox::Rate},
-      {{L"a", L"b", L""}, L"Please enter a number.", ConversionBox::Rate},
-      {{L"a", L"b", L"1e999"}, L"Please enter a number.", ConversionBox::Rate},
-      {{L"a", L"b", L"12abc"}, L"Please enter a number.", ConversionBox::Rate},
-      {{L"   ", L"", L"0"}, L"Please, Input a unit name", ConversionBox::FirstName},
-      {{L"", L"a->b", L"0"}, L"Please, Input a unit name", ConversionBox::FirstName},
-      {{L"a->b", L"  ", L"0"}, L"Please, Input a unit name", ConversionBox::SecondName},
-      {{L"a->b", L"->", L"0"}, L"Invalid unit name.", ConversionBox::FirstName},
-      {{L"a", L"->b", L"0"}, L"Invalid unit name.", ConversionBox::SecondName},
-      {{L" A0 ", L" B0", L"0"}, L"A0 -> B0 exists already.", ConversionBox::FirstName},
-      {{L"a", L"b", L"0"}, L"Invalid convert rate", ConversionBox::Rate},
-      {{L"a", L"b", L"-0.00e5"}, L"Invalid convert rate", ConversionBox::Rate},
-      {{L"a", L"b", L"1e-400"}, L"Invalid convert rate", ConversionBox::Rate},
+      {{L" ", L"", L"one"}, L"Please enter a number.", UserConversionEditor::Rate},
+      {{L"a", L"b", L""}, L"Please enter a number.", UserConversionEditor::Rate},
+      {{L"a", L"b", L"1e999"}, L"Please enter a number.", UserConversionEditor::Rate},
+      {{L"a", L"b", L"12abc"}, L"Please enter a number.", UserConversionEditor::Rate},
+      {{L"   ", L"", L"0"}, L"Please, Input a unit name", UserConversionEditor::FirstName},
+      {{L"", L"a->b", L"0"}, L"Please, Input a unit name", UserConversionEditor::FirstName},
+      {{L"a->b", L"  ", L"0"}, L"Please, Input a unit name", UserConversionEditor::SecondName},
+      {{L"a->b", L"->", L"0"}, L"Invalid unit name.", UserConversionEditor::FirstName},
+      {{L"a", L"->b", L"0"}, L"Invalid unit name.", UserConversionEditor::SecondName},
+      {{L" A0 ", L" B0", L"0"}, L"A0 -> B0 exists already.", UserConversionEditor::FirstName},
+      {{L"a", L"b", L"0"}, L"Invalid convert rate", UserConversionEditor::Rate},
+      {{L"a", L"b", L"-0.00e5"}, L"Invalid convert rate", UserConversionEditor::Rate},
+      {{L"a", L"b", L"1e-400"}, L"Invalid convert rate", UserConversionEditor::Rate},
   };
   for (const bool edited : {false, true}) {
     RecordingStore store = StoreWithConversions(2);
     UserConversionEditor editor(store);
     editor.Select(1);
     edited ? editor.Edit() : editor.New();
-    const ConversionBoxes before = editor.Boxes();
+    const ConversionBoxes before = editor.ShownBoxes();
     for (const auto& c : cases) {
-      const SaveOutcome outcome = editor.Save(c.typed);
+      const ListEditor::Refusal outcome = editor.Save(c.typed);
       EXPECT_EQ(outcome.sentence, c.sentence) << Narrow(c.typed.firstName);
-      EXPECT_EQ(outcome.focus, c.focus) << Narrow(c.sentence);
+      EXPECT_EQ(outcome.field, c.focus) << Narrow(c.sentence);
       EXPECT_TRUE(editor.View().saveShown);
-      ExpectBoxes(editor.Boxes(), before.firstName, before.secondName, before.rate);
+      ExpectBoxes(editor.ShownBoxes(), before.firstName, before.secondName, before.rate);
     }
     EXPECT_TRUE(store.writes.empty());
     EXPECT_EQ(editor.Conversions().Count(), 2);
@@ -207,9 +207,9 @@ TEST(UserConversionEditor, AFullListRefusesNewAndEditedConversions) {
     UserConversionEditor editor(store);
     editor.Select(3);
     edited ? editor.Edit() : editor.New();
-    const SaveOutcome outcome = editor.Save({L"", L"", L"no number"});
+    const ListEditor::Refusal outcome = editor.Save({L"", L"", L"no number"});
     EXPECT_EQ(outcome.sentence, L"Maximum of user-define unit convert is 60");
-    EXPECT_EQ(outcome.focus, ConversionBox::None);
+    EXPECT_EQ(outcome.field, ListEditor::kNoField);
     EXPECT_TRUE(store.writes.empty());
   }
 }
@@ -241,11 +241,11 @@ TEST(UserConversionEditor, DeleteSelectsWhatTakesItsPlace) {
   editor.Delete();
   EXPECT_EQ(store.writes.back(), L"Converter/UserDefine_TotalNumber=4");
   EXPECT_EQ(editor.Selected(), 2);
-  ExpectBoxes(editor.Boxes(), L"A3", L"B3", L"4.5");
+  ExpectBoxes(editor.ShownBoxes(), L"A3", L"B3", L"4.5");
   editor.Select(3);
   editor.Delete();
   EXPECT_EQ(editor.Selected(), 2);
-  ExpectBoxes(editor.Boxes(), L"A3", L"B3", L"4.5");
+  ExpectBoxes(editor.ShownBoxes(), L"A3", L"B3", L"4.5");
   EXPECT_EQ(editor.View().listLabel, L"List(3/60)");
 }
 
@@ -255,7 +255,7 @@ TEST(UserConversionEditor, DeletingTheLastOneLeavesNothing) {
   editor.Select(0);
   editor.Delete();
   EXPECT_EQ(editor.Selected(), -1);
-  ExpectBoxes(editor.Boxes(), L"", L"", L"");
+  ExpectBoxes(editor.ShownBoxes(), L"", L"", L"");
   EXPECT_FALSE(editor.View().deleteShown);
 }
 
@@ -266,14 +266,15 @@ TEST(UserConversionEditor, ANameWithoutArrowCanBeRepaired) {
   Write(store, settings::kConversionCount, 1);
   UserConversionEditor editor(store);
   editor.Select(0);
-  ExpectBoxes(editor.Boxes(), L"Inch", L"", L"2.54");
+  ExpectBoxes(editor.ShownBoxes(), L"Inch", L"", L"2.54");
   editor.Edit();
   EXPECT_EQ(editor.Save({L"Inch", L"Centimeter", L"2.54"}).sentence, L"");
   EXPECT_EQ(editor.Conversions().At(0).name, L"Inch -> Centimeter");
 }
 
 TEST(UserConversionEditor, DeleteQuestion) {
-  EXPECT_EQ(kDeleteConversionQuestion,
+  RecordingStore store;
+  EXPECT_EQ(UserConversionEditor(store).DeleteQuestion(),
             L"Are you sure you want to delete the selected unit convert?");
 }
 

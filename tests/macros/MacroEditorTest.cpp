@@ -8,7 +8,6 @@
 namespace vexa {
 namespace {
 
-using Field = MacroEditor::Field;
 using Fields = MacroEditor::Fields;
 
 class MacroEditorTest : public testing::Test {
@@ -92,30 +91,32 @@ TEST_F(MacroEditorTest, ChecksInOrder) {
   struct Case {
     Fields fields;
     std::wstring sentence;
-    Field field;
+    int field;
   };
   // With "x+" before it, as long as a formula may be.
   const std::wstring longest(148, L'1');
   const Case cases[] = {
-      {{L"", -1, L""}, L"Macro Name is NULL", Field::Name},
-      {{L"   ", -1, L""}, L"Macro Name is NULL", Field::Name},
-      {{L"f(x)", -1, L""}, L"Can not use '(',')',':' in Macro Name.", Field::Name},
-      {{L"a:b", 0, L"x"}, L"Can not use '(',')',':' in Macro Name.", Field::Name},
-      {{L")", 0, L"x"}, L"Can not use '(',')',':' in Macro Name.", Field::Name},
-      {{L"m1", -1, L""}, L"m1 exists already.", Field::Name},
-      {{L" m0 ", 0, L"x"}, L"m0 exists already.", Field::Name},
-      {{L"new", -1, L""}, L"Argument Type is NULL", Field::Type},
-      {{L"new", 0, L""}, L"Macro Expression is NULL", Field::Formula},
-      {{L"new", 0, L"  "}, L"Macro Expression is NULL", Field::Formula},
-      {{L"new", 0, L"x+1" + longest}, L"Macro Expression exceeded length limit.", Field::Formula},
-      {{L"new", 0, L"x+" + longest}, L"number exceeded length limit.", Field::Formula},
-      {{L"new", 0, L"x+y"}, L"Can not use variable Y", Field::Formula},
-      {{L"new", 1, L"x+z"}, L"Can not use variable Z", Field::Formula},
-      {{L"new", 0, L"2+3"}, L"Argument error : Missing variable X", Field::Formula},
-      {{L"new", 1, L"x*2"}, L"Argument error : Missing variable Y", Field::Formula},
-      {{L"new", 2, L"x*y"}, L"Argument error : Missing variable Z", Field::Formula},
-      {{L"new", 0, L"x+#"}, L"# is not supported.", Field::Formula},
-      {{L"new", 0, L"sin x"}, L"Expression error.", Field::Formula},
+      {{L"", -1, L""}, L"Macro Name is NULL", MacroEditor::Name},
+      {{L"   ", -1, L""}, L"Macro Name is NULL", MacroEditor::Name},
+      {{L"f(x)", -1, L""}, L"Can not use '(',')',':' in Macro Name.", MacroEditor::Name},
+      {{L"a:b", 0, L"x"}, L"Can not use '(',')',':' in Macro Name.", MacroEditor::Name},
+      {{L")", 0, L"x"}, L"Can not use '(',')',':' in Macro Name.", MacroEditor::Name},
+      {{L"m1", -1, L""}, L"m1 exists already.", MacroEditor::Name},
+      {{L" m0 ", 0, L"x"}, L"m0 exists already.", MacroEditor::Name},
+      {{L"new", -1, L""}, L"Argument Type is NULL", MacroEditor::Type},
+      {{L"new", 0, L""}, L"Macro Expression is NULL", MacroEditor::Formula},
+      {{L"new", 0, L"  "}, L"Macro Expression is NULL", MacroEditor::Formula},
+      {{L"new", 0, L"x+1" + longest},
+       L"Macro Expression exceeded length limit.",
+       MacroEditor::Formula},
+      {{L"new", 0, L"x+" + longest}, L"number exceeded length limit.", MacroEditor::Formula},
+      {{L"new", 0, L"x+y"}, L"Can not use variable Y", MacroEditor::Formula},
+      {{L"new", 1, L"x+z"}, L"Can not use variable Z", MacroEditor::Formula},
+      {{L"new", 0, L"2+3"}, L"Argument error : Missing variable X", MacroEditor::Formula},
+      {{L"new", 1, L"x*2"}, L"Argument error : Missing variable Y", MacroEditor::Formula},
+      {{L"new", 2, L"x*y"}, L"Argument error : Missing variable Z", MacroEditor::Formula},
+      {{L"new", 0, L"x+#"}, L"# is not supported.", MacroEditor::Formula},
+      {{L"new", 0, L"sin x"}, L"Expression error.", MacroEditor::Formula},
   };
   StoreMacros(3);
   for (const Case& c : cases) {
