@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QWheelEvent>
 
 #include "display/DisplayFormattingDialog.h"
@@ -525,7 +526,10 @@ void GraphViewTest::SaveWritesTheChosenFormat() {
 }
 
 void GraphViewTest::SaveSaysThatTheFileCannotBeWritten() {
-  file_dialogs::AddNextAnswer(QStringLiteral("/nowhere/at/all/graph.bmp"));
+  // Nobody can make a file below a file.
+  QTemporaryFile file;
+  QVERIFY(file.open());
+  file_dialogs::AddNextAnswer(file.fileName() + QStringLiteral("/graph.bmp"));
   Press(view, QStringLiteral("Save Graph"));
   QCOMPARE(Answer(view), QStringLiteral("File Error"));
 }
