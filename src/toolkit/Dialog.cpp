@@ -1,6 +1,7 @@
 #include "toolkit/Dialog.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -53,6 +54,14 @@ QSize Dialog::Room() const {
 
 void Dialog::SetOpeningHeight(int height) {
   resize(QSize(kWidth, height).boundedTo(Room()));
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  auto* const button = qobject_cast<QPushButton*>(focusWidget());
+  // Buttons are no automatic defaults, which would leave Return to the one that saves or closes.
+  if (isReturn && button && button->isEnabled()) return button->click();
+  QDialog::keyPressEvent(event);
 }
 
 void Dialog::showEvent(QShowEvent* event) {

@@ -43,6 +43,8 @@ class Dialog : public QDialog {
   /// Shows `button` as the one that Enter runs.
   static void SetDefault(QPushButton* button);
 
+  /// A button that has the focus takes Return; the default button has it otherwise.
+  void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:

@@ -42,6 +42,7 @@ class UnitConverterKeysTest : public QObject {
   void TabFollowsTheLayout();
   void EnterIsOk_data();
   void EnterIsOk();
+  void AFocusedButtonTakesReturn();
   void EscapeIsCancel();
   void EditCommandsActOnTheInputField();
   void ShortcutsEditTheInputField();
@@ -181,8 +182,7 @@ void UnitConverterKeysTest::TabFollowsTheLayout() {
 
 void UnitConverterKeysTest::EnterIsOk_data() {
   QTest::addColumn<QString>("focus");
-  for (const char* name :
-       {"Input value", "Input unit", "Output value", "Unit Converter", "OK", "Cancel"}) {
+  for (const char* name : {"Input value", "Input unit", "Output value", "Unit Converter", "OK"}) {
     QTest::newRow(name) << QString::fromLatin1(name);
   }
 }
@@ -196,6 +196,20 @@ void UnitConverterKeysTest::EnterIsOk() {
   QSignalSpy accepted(screen.dialog, &QDialog::accepted);
   QTest::keyClick(widget, Qt::Key_Return);
   QCOMPARE(accepted.count(), 1);
+}
+
+void UnitConverterKeysTest::AFocusedButtonTakesReturn() {
+  screen.Open(kKilometersToMeters);
+  auto* const memory = screen.Find<QPushButton>("MEM");
+  memory->setFocus();
+  QTest::keyClick(memory, Qt::Key_Return);
+  QVERIFY(screen.MemoryMenu());
+  QTest::keyClick(screen.MemoryMenu(), Qt::Key_Escape);
+  auto* const cancel = screen.Find<QPushButton>("Cancel");
+  cancel->setFocus();
+  QSignalSpy rejected(screen.dialog, &QDialog::rejected);
+  QTest::keyClick(cancel, Qt::Key_Enter);
+  QCOMPARE(rejected.count(), 1);
 }
 
 void UnitConverterKeysTest::EscapeIsCancel() {

@@ -36,6 +36,7 @@ class UserConversionDialogTest : public QObject {
   void EscapeAsksBeforeWhatWasTypedIsLost_data();
   void EscapeAsksBeforeWhatWasTypedIsLost();
   void EnterRunsTheShownButton();
+  void AFocusedButtonTakesReturn();
   void DeleteAsksFirst();
   void DeleteRenumbersWhatFollows();
   void DeletingTheLastSelectsTheNewLast();
@@ -203,6 +204,23 @@ void UserConversionDialogTest::EnterRunsTheShownButton() {
   QSignalSpy rejected(screen.dialog, &QDialog::rejected);
   QTest::keyClick(screen.list, Qt::Key_Return);
   QCOMPARE(rejected.count(), 1);
+}
+
+void UserConversionDialogTest::AFocusedButtonTakesReturn() {
+  screen.Open(1);
+  const auto press = [this](const char* caption) {
+    screen.Button(caption)->setFocus();
+    QTest::keyClick(screen.Button(caption), Qt::Key_Return);
+  };
+  press("New");
+  QVERIFY(screen.Button("Save")->isVisible());
+  screen.Type(QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("2"));
+  press("Cancel");
+  QVERIFY(screen.Button("Close")->isVisible());
+  QCOMPARE(screen.Stored().size(), 1);
+  press("Delete");
+  QVERIFY(test::OpenBox());
+  test::AnswerBox(QMessageBox::No);
 }
 
 void UserConversionDialogTest::DeleteAsksFirst() {
