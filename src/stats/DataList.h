@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "stats/DataFile.h"
+#include "stats/ListNumbers.h"
 #include "stats/PackedRows.h"
 #include "stats/SortOrder.h"
 
@@ -37,8 +38,12 @@ struct ListControls {
   bool correlation = false;
 };
 
-/// Rows of data. Every value is kept as the text that its cell shows, and there is no other copy of
-/// it: what is computed is computed from the texts.
+/// Rows of data. Every value is kept as the text that its cell shows: what is computed is computed
+/// from the texts, whose numbers are read once (see ListNumbers).
+///
+/// AddUp, VisitNumbers and Sorted, and with them all that computes from the rows
+/// (SummaryStatistics, Regression, PrepareRegressionPlot), may run on one thread at a time beside
+/// others that read texts, counts, total and controls. Nothing may change the list meanwhile.
 class DataList {
  public:
   static constexpr std::wstring_view kNothingSelected = L"No items were selected!";
@@ -59,6 +64,15 @@ class DataList {
   }
   double Value(std::size_t row, std::size_t column) const;
   std::int32_t Count(std::size_t row) const;
+
+  /// Adds all rows up, unless that was done since they changed. False: `watcher` stopped it.
+  bool AddUp(const ProgressWatcher& watcher) const { return numbers.Add(rows, watcher); }
+  /// The sums of all rows, which are added up where that was not done.
+  const ListSums& Sums() const;
+  /// Hands all numbers to `visitor`, from the first row to the last. False: `watcher` stopped it.
+  bool VisitNumbers(const NumberVisitor& visitor, const ProgressWatcher& watcher) const {
+    return numbers.Visit(rows, visitor, watcher);
+  }
 
   /// The sum of all counts, in 32 bits.
   std::int32_t Total() const { return total; }
@@ -87,6 +101,7 @@ class DataList {
   struct SortedRows {
     std::size_t column;
     PackedRows::Arrangement rows;
+    ListNumbers numbers;
   };
   /// None: `watcher` stopped it, or the memory does not suffice.
   std::optional<SortedRows> Sorted(std::size_t column, const ProgressWatcher& watcher) const;
@@ -110,10 +125,15 @@ class DataList {
 
  private:
   void EndEditing();
+  /// The order of the rows sorted by the numbers of `column`; none: `watcher` stopped it.
+  std::optional<std::vector<std::size_t>> OrderBy(std::size_t column,
+                                                  const ProgressWatcher& watcher) const;
   void EnableStatistics(bool enabled) { controls.statistics = controls.correlation = enabled; }
 
   std::span<const ListColumn> columns;
   PackedRows rows;
+  /// What was read of the rows so far: nothing that a reader of the list can tell.
+  mutable ListNumbers numbers;
   std::int32_t total = 0;
   bool modified = false;
   ListControls controls;

@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "stats/NormalEquations.h"
-#include "stats/SummaryStatistics.h"
 
 namespace vexa {
 namespace {
@@ -32,30 +31,53 @@ double Power(double base, std::size_t exponent) {
   return std::pow(base, static_cast<double>(exponent));
 }
 
-NormalEquations EquationsOf(const DataList& list, const Transformation& transformation,
-                            std::size_t count) {
-  const auto basis = [&](double x) { return transformation.logarithmOfX ? std::log(x) : x; };
-  const auto target = [&](double y) { return transformation.logarithmOfY ? std::log(y) : y; };
-  // Elements with the same sum of indices are the same sum of powers.
-  std::array<double, 2 * kMostCoefficients - 1> powers{};
-  NormalEquations equations;
-  for (std::size_t row = 0; row < list.RowCount(); ++row) {
-    const double weight = list.Count(row);
-    const double x = list.Value(row, 0);
-    const double t = basis(x);
-    // Most rows count once, which saves a logarithm.
-    const double weightedT = weight == 1.0 ? t : basis(weight * x);
-    const double weightedTarget = weight * target(list.Value(row, 1));
-    for (std::size_t p = 0; p < 2 * count - 1; ++p) powers[p] += weight * Power(t, p);
-    for (std::size_t r = 0; r < count; ++r) {
-      equations.right[r] += weightedTarget * Power(weightedT, r);
+/// The equations of a fit, to which rows are added in turn.
+class Equations {
+ public:
+  Equations(const Transformation& dataTransformation, std::size_t coefficientCount)
+      : transformation(dataTransformation), count(coefficientCount) {}
+
+  void Add(const NumberPiece& piece) {
+    for (std::size_t i = 0; i < piece.x.size(); ++i) {
+      Add(piece.counts[i], piece.x[i], piece.y[i]);
     }
   }
-  for (std::size_t r = 0; r < count; ++r) {
-    for (std::size_t c = 0; c < count; ++c) equations.matrix[r][c] = powers[r + c];
+
+  NormalEquations Result() const {
+    NormalEquations equations;
+    equations.right = right;
+    for (std::size_t r = 0; r < kMostCoefficients; ++r) {
+      for (std::size_t c = 0; c < kMostCoefficients; ++c) equations.matrix[r][c] = powers[r + c];
+    }
+    return equations;
   }
-  return equations;
-}
+
+ private:
+  double Basis(double x) const { return transformation.logarithmOfX ? std::log(x) : x; }
+  double Target(double y) const { return transformation.logarithmOfY ? std::log(y) : y; }
+
+  void Add(double weight, double x, double y) {
+    const double t = Basis(x);
+    std::array<double, 2 * kMostCoefficients - 1> powersOfT;
+    for (std::size_t p = 0; p < 2 * count - 1; ++p) {
+      powersOfT[p] = Power(t, p);
+      powers[p] += weight * powersOfT[p];
+    }
+    const double weightedTarget = weight * Target(y);
+    // Most rows count once, which saves a logarithm and powers.
+    const bool once = weight == 1.0;
+    const double weightedT = once ? t : Basis(weight * x);
+    for (std::size_t r = 0; r < count; ++r) {
+      right[r] += weightedTarget * (once ? powersOfT[r] : Power(weightedT, r));
+    }
+  }
+
+  const Transformation transformation;
+  const std::size_t count;
+  /// Elements of the matrix with the same sum of indices are the same sum of powers.
+  std::array<double, 2 * kMostCoefficients - 1> powers{};
+  std::array<double, kMostCoefficients> right{};
+};
 
 /// Sums of the products of the deviations from the means.
 struct Deviations {
@@ -63,7 +85,7 @@ struct Deviations {
   double yy;
   double xy;
 };
-Deviations DeviationsOf(const PairSums& sums, double n) {
+Deviations DeviationsOf(const ListSums& sums, double n) {
   return {sums.x.squares - std::pow(sums.x.values, 2.0) / n,
           sums.y.squares - std::pow(sums.y.values, 2.0) / n,
           sums.products - (sums.y.values * sums.x.values) / n};
@@ -72,7 +94,7 @@ Deviations DeviationsOf(const PairSums& sums, double n) {
 }  // namespace
 
 Coefficients FitLine(const DataList& list) {
-  const PairSums sums = SumPairs(list);
+  const ListSums& sums = list.Sums();
   const double n = list.Total();
   const Deviations deviations = DeviationsOf(sums, n);
   const double a = deviations.xy / deviations.xx;
@@ -80,28 +102,32 @@ Coefficients FitLine(const DataList& list) {
 }
 
 double CorrelationOf(const DataList& list) {
-  const Deviations deviations = DeviationsOf(SumPairs(list), list.Total());
+  const Deviations deviations = DeviationsOf(list.Sums(), list.Total());
   return deviations.xy / std::pow(deviations.yy * deviations.xx, 0.5);
 }
 
-Coefficients FitCurve(const DataList& list, RegressionModel model, std::size_t count) {
+std::optional<Coefficients> FitCurve(const DataList& list, RegressionModel model, std::size_t count,
+                                     const ProgressWatcher& watcher) {
   const auto transformation = std::ranges::find(kTransformations, model, &Transformation::model);
   if (transformation == std::ranges::end(kTransformations)) {
-    return {kNoNumber, kNoNumber, kNoNumber};
+    return Coefficients{kNoNumber, kNoNumber, kNoNumber};
   }
-  const auto c = Solve(EquationsOf(list, *transformation, count), count);
+  Equations equations(*transformation, count);
+  const auto add = [&](const NumberPiece& piece) { equations.Add(piece); };
+  if (!list.VisitNumbers(add, watcher)) return std::nullopt;
+  const auto c = Solve(equations.Result(), count);
   switch (model) {
     case RegressionModel::Inverse: {
       // Fitted as a power is, and unlike the others taken back this way; meant.
       const double b = std::exp(-c[1]);
-      return {std::exp(c[0]) - b, b, 0.0};
+      return Coefficients{std::exp(c[0]) - b, b, 0.0};
     }
     case RegressionModel::Logarithmic:
-      return {c[1], c[0], 0.0};
+      return Coefficients{c[1], c[0], 0.0};
     case RegressionModel::Quadratic:
-      return {c[2], c[1], c[0]};
+      return Coefficients{c[2], c[1], c[0]};
     default:
-      return {std::exp(c[0]), c[1], 0.0};
+      return Coefficients{std::exp(c[0]), c[1], 0.0};
   }
 }
 

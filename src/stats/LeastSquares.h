@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "stats/Regression.h"
 
 namespace vexa {
@@ -11,7 +13,9 @@ double CorrelationOf(const DataList& list);
 
 /// The other models by least squares on transformed data, with `count` coefficients of the
 /// transformed curve. The right-hand sides take the basis of count times x, not of x; meant: with
-/// every count 1 the fit is the ordinary one. A model without such a fit leaves no numbers.
-Coefficients FitCurve(const DataList& list, RegressionModel model, std::size_t count);
+/// every count 1 the fit is the ordinary one. A model without such a fit leaves no numbers. None:
+/// `watcher` stopped it.
+std::optional<Coefficients> FitCurve(const DataList& list, RegressionModel model, std::size_t count,
+                                     const ProgressWatcher& watcher);
 
 }  // namespace vexa

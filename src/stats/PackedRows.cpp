@@ -1,6 +1,7 @@
 #include "stats/PackedRows.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vexa {
 namespace {
@@ -47,6 +48,11 @@ std::string_view PackedRows::Cell(std::size_t row, std::size_t column) const {
   return TakeText(at);
 }
 
+void PackedRows::Cells(std::size_t row, std::span<std::string_view> cells) const {
+  const char* at = rows[row];
+  for (std::string_view& cell : cells) cell = TakeText(at);
+}
+
 void PackedRows::InsertFront(std::span<const std::string> cells) {
   rows.insert(rows.begin(), Stored(cells));
 }
@@ -59,17 +65,10 @@ void PackedRows::Remove(std::size_t row) {
   rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(row));
 }
 
-PackedRows::Arrangement PackedRows::Arranged(std::span<const std::size_t> order) const {
-  Arrangement arranged(rows.size());
-  std::transform(order.begin(), order.end(), arranged.begin(),
-                 [this](std::size_t row) { return rows[row]; });
-  return arranged;
-}
-
 const char* PackedRows::Stored(std::span<const std::string> cells) {
   std::size_t size = 0;
   for (const std::string& cell : cells) size += LengthSize(cell.size()) + cell.size();
-  char* const stored = Reserve(size);
+  char* const stored = Take(size);
   char* to = stored;
   for (const std::string& cell : cells) {
     to = WriteLength(to, cell.size());
@@ -78,17 +77,13 @@ const char* PackedRows::Stored(std::span<const std::string> cells) {
   return stored;
 }
 
-char* PackedRows::Reserve(std::size_t size) {
-  if (size > room) {
+char* PackedRows::Take(std::size_t size) {
+  if (blocks.empty() || size > blocks.back().size - blocks.back().used) {
     const std::size_t blockSize = std::max(size, kBlockSize);
-    blocks.push_back(std::make_unique_for_overwrite<char[]>(blockSize));
-    free = blocks.back().get();
-    room = blockSize;
+    blocks.push_back({std::make_unique_for_overwrite<char[]>(blockSize), blockSize, 0});
   }
-  char* const reserved = free;
-  free += size;
-  room -= size;
-  return reserved;
+  Block& block = blocks.back();
+  return block.bytes.get() + std::exchange(block.used, block.used + size);
 }
 
 }  // namespace vexa

@@ -5,33 +5,54 @@
 #include "stats/LeastSquares.h"
 
 namespace vexa {
+namespace {
+
+/// The share of a fit at which the rows are added up.
+constexpr double kAddedUp = 0.5;
+
+}  // namespace
 
 void Regression::ChooseModel(RegressionModel chosen) {
   model = chosen;
   Invalidate();
 }
 
-const Coefficients& Regression::Fitted() {
-  if (model == RegressionModel::Linear) {
-    FitLinear();
-  } else if (IsRegressionModel(model)) {
-    FitCoefficients(model, model == RegressionModel::Quadratic ? 3 : 2, 0);
+bool Regression::Fit(const ProgressWatcher& watcher) {
+  if (!list.AddUp(PartOf(watcher, 0.0, kAddedUp))) return false;
+  if (!IsRegressionModel(model)) return true;
+  if (model != RegressionModel::Linear) {
+    const std::size_t count = model == RegressionModel::Quadratic ? 3 : 2;
+    return FitCurve(model, count, PartOf(watcher, kAddedUp, 1.0));
   }
+  if (!coefficientsValid) coefficients = FitLine(list);
+  coefficientsValid = true;
+  return true;
+}
+
+const Coefficients& Regression::Fitted() {
+  Fit(Unwatched);
   return coefficients;
 }
 
-void Regression::FitLinear() {
-  if (coefficientsValid) return;
-  coefficients = FitLine(list);
+bool Regression::FitCurve(RegressionModel fittedModel, std::size_t count,
+                          const ProgressWatcher& watcher) {
+  if (coefficientsValid) return true;
+  const auto fitted = vexa::FitCurve(list, fittedModel, count, watcher);
+  if (!fitted) return false;
+  coefficients = *fitted;
   coefficientsValid = true;
+  return true;
 }
 
 double Regression::FitCoefficients(RegressionModel fittedModel, std::size_t count, int index) {
-  if (!coefficientsValid) coefficients = FitCurve(list, fittedModel, count);
-  coefficientsValid = true;
+  FitCurve(fittedModel, count, Unwatched);
   const auto& [a, b, c] = coefficients;
   if (fittedModel != RegressionModel::Quadratic) return index == 0 ? a : b;
   return index == 0 ? c : index == 1 ? b : a;
+}
+
+bool Regression::HalvesCounts() const {
+  return IsRegressionModel(model) && model != RegressionModel::Linear && list.Sums().weighted;
 }
 
 double Regression::Correlation() const {

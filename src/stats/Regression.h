@@ -24,6 +24,9 @@ class Regression {
   /// The rows have changed: the next request fits anew.
   void Invalidate() { coefficientsValid = false; }
 
+  /// Fits the current model, unless the coefficients are valid still, and adds up what else the
+  /// results take. False: `watcher` stopped it.
+  bool Fit(const ProgressWatcher& watcher);
   /// The coefficients of the current model, fitted unless they are valid still. A code outside the
   /// enum keeps what is there.
   const Coefficients& Fitted();
@@ -31,6 +34,9 @@ class Regression {
   /// one, else 2), unless the coefficients are valid, and returns one of them: A at index 0 and B
   /// at any other; of the quadratic model C, B and A at 0, 1 and 2.
   double FitCoefficients(RegressionModel fittedModel, std::size_t count, int index);
+  /// Whether the current model's fit weighs some row by half: a model that is not linear takes
+  /// counts as weights in half of its equations only, which is nothing while every count is 1.
+  bool HalvesCounts() const;
   /// The linear correlation coefficient of the rows, whatever the model.
   double Correlation() const;
 
@@ -43,7 +49,7 @@ class Regression {
   double SecondRoot(double y);
 
  private:
-  void FitLinear();
+  bool FitCurve(RegressionModel fittedModel, std::size_t count, const ProgressWatcher& watcher);
 
   const DataList& list;
   RegressionModel model = RegressionModel::Linear;

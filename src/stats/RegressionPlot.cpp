@@ -29,31 +29,37 @@ constexpr CurvePattern kCurvePatterns[] = {
 };
 
 struct Extent {
-  double min;
-  double max;
+  double min = 0.0;
+  double max = 0.0;
+
+  /// The first value is the extent, then others widen it.
+  void Take(double value, bool isFirst) {
+    if (isFirst || value < min) min = value;
+    if (isFirst || value > max) max = value;
+  }
 };
 
-Extent ExtentOf(const std::vector<DataPoint>& points, double DataPoint::*coordinate) {
-  if (points.empty()) return {0.0, 0.0};
-  Extent extent{points.front().*coordinate, points.front().*coordinate};
-  for (const DataPoint& point : points) {
-    if (point.*coordinate < extent.min) extent.min = point.*coordinate;
-    if (point.*coordinate > extent.max) extent.max = point.*coordinate;
+/// The points of the rows, and how far they reach; without rows as far as 0.
+struct Points {
+  std::vector<DataPoint> points;
+  Extent x;
+  Extent y;
+
+  void Add(const NumberPiece& piece) {
+    for (std::size_t i = 0; i < piece.x.size(); ++i) {
+      x.Take(piece.x[i], points.empty());
+      y.Take(piece.y[i], points.empty());
+      points.push_back({piece.x[i], piece.y[i]});
+    }
   }
-  return extent;
-}
+};
+
+/// The share of the work at which the curve is fitted.
+constexpr double kFitted = 0.8;
 
 Extent WithMargins(const Extent& extent) {
   const double margin = (extent.max - extent.min) * kMargin;
   return {extent.min - margin, margin + extent.max};
-}
-
-std::vector<DataPoint> PointsOf(const DataList& list) {
-  std::vector<DataPoint> points(list.RowCount());
-  for (std::size_t row = 0; row < points.size(); ++row) {
-    points[row] = {list.Value(row, 0), list.Value(row, 1)};
-  }
-  return points;
 }
 
 }  // namespace
@@ -74,28 +80,33 @@ std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, 
   return curve;
 }
 
-std::wstring PrepareRegressionPlot(const DataList& list, Regression& regression, int precision,
-                                   std::wstring& lastError, GraphData& graph) {
+std::optional<std::wstring> PrepareRegressionPlot(const DataList& list, Regression& regression,
+                                                  int precision, const ProgressWatcher& watcher,
+                                                  std::wstring& lastError, GraphData& graph) {
+  if (!regression.Fit(PartOf(watcher, 0.0, kFitted))) return std::nullopt;
+  Points data;
+  data.points.reserve(list.RowCount());
+  const auto add = [&](const NumberPiece& piece) { data.Add(piece); };
+  if (!list.VisitNumbers(add, PartOf(watcher, kFitted, 1.0))) return std::nullopt;
+
   graph = {.options = {.grid = false, .line = true, .coordinates = false}};
-  graph.dataPoints = PointsOf(list);
-  const Extent x = ExtentOf(graph.dataPoints, &DataPoint::x);
-  const Extent y = ExtentOf(graph.dataPoints, &DataPoint::y);
   lastError.clear();
   const std::wstring curve =
       CurveText(regression.Model(), regression.Fitted(), precision, lastError);
   // An empty range is the better reason: the coefficients are no numbers because of it.
-  if (y.min == y.max) lastError = kYRangeOrder;
-  if (x.min == x.max) lastError = kXRangeOrder;
+  if (data.y.min == data.y.max) lastError = kYRangeOrder;
+  if (data.x.min == data.x.max) lastError = kXRangeOrder;
   if (!lastError.empty()) return lastError;
 
   GraphFunction function;
   lastError = ParseGraphFunction(0, curve, function);
   if (!lastError.empty()) return FunctionRefusal(curve, lastError);
   graph.functions = {std::move(function)};
-  const Extent shownX = WithMargins(x);
-  const Extent shownY = WithMargins(y);
+  graph.dataPoints = std::move(data.points);
+  const Extent shownX = WithMargins(data.x);
+  const Extent shownY = WithMargins(data.y);
   graph.ranges = {shownX.min, shownX.max, shownY.min, shownY.max};
-  return {};
+  return std::wstring();
 }
 
 }  // namespace vexa

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "plotter/GraphData.h"
@@ -16,8 +17,10 @@ std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, 
 /// Prepares the graph of the current model: the curve, and a point for every row, however often it
 /// counts, over the rows' extent and 30% more on each side. Returns the message that refuses it
 /// (empty: success). `lastError` becomes the reason, without the curve that an error of the
-/// expression engine is reported with; empty after a success.
-std::wstring PrepareRegressionPlot(const DataList& list, Regression& regression, int precision,
-                                   std::wstring& lastError, GraphData& graph);
+/// expression engine is reported with; empty after a success. None: `watcher` stopped it, and
+/// `lastError` and `graph` are as they were.
+std::optional<std::wstring> PrepareRegressionPlot(const DataList& list, Regression& regression,
+                                                  int precision, const ProgressWatcher& watcher,
+                                                  std::wstring& lastError, GraphData& graph);
 
 }  // namespace vexa

@@ -10,6 +10,10 @@ using Index = std::ptrdiff_t;
 /// Steps of work between two reports.
 constexpr Index kReportEvery = Index{1} << 16;
 
+/// Shares of the work at which all entries are made, and sorted.
+constexpr double kEntered = 0.1;
+constexpr double kSorted = 0.9;
+
 struct Entry {
   double value;
   std::size_t index;
@@ -83,14 +87,24 @@ class PartitionSort {
 std::optional<std::vector<std::size_t>> SortOrder(std::span<const double> values,
                                                   SortDirection direction,
                                                   const ProgressWatcher& watcher) {
-  std::vector<Entry> entries(values.size());
-  for (std::size_t i = 0; i < values.size(); ++i) entries[i] = {values[i], i};
+  const std::size_t count = values.size();
+  std::vector<Entry> entries;
+  entries.reserve(count);
+  const auto enter = [&](std::size_t first, std::size_t end) {
+    for (std::size_t i = first; i < end; ++i) entries.push_back({values[i], i});
+  };
+  if (!InPieces(count, PartOf(watcher, 0.0, kEntered), enter)) return std::nullopt;
+  const ProgressWatcher sorting = PartOf(watcher, kEntered, kSorted);
   const bool sorted = direction == SortDirection::Ascending
-                          ? PartitionSort<SortDirection::Ascending>(entries, watcher).Run()
-                          : PartitionSort<SortDirection::Descending>(entries, watcher).Run();
+                          ? PartitionSort<SortDirection::Ascending>(entries, sorting).Run()
+                          : PartitionSort<SortDirection::Descending>(entries, sorting).Run();
   if (!sorted) return std::nullopt;
-  std::vector<std::size_t> order(entries.size());
-  for (std::size_t i = 0; i < entries.size(); ++i) order[i] = entries[i].index;
+  std::vector<std::size_t> order;
+  order.reserve(count);
+  const auto take = [&](std::size_t first, std::size_t end) {
+    for (std::size_t i = first; i < end; ++i) order.push_back(entries[i].index);
+  };
+  if (!InPieces(count, PartOf(watcher, kSorted, 1.0), take)) return std::nullopt;
   return order;
 }
 

@@ -5,7 +5,6 @@
 #include "display/FormatResult.h"
 #include "display/SettingsLayout.h"
 #include "engine/NumberText.h"
-#include "stats/ResultKeys.h"
 
 namespace vexa {
 namespace {
@@ -67,11 +66,12 @@ void Statistics::Load(DataSet data) {
   regression.Invalidate();
 }
 
-EntryFault Statistics::ShowResult(std::wstring_view caption, const EntryTexts& texts) {
+std::optional<EntryFault> Statistics::ShowResult(std::wstring_view caption, const EntryTexts& texts,
+                                                 const ProgressWatcher& watcher) {
   const ResultKey* const key = FindResultKey(caption);
-  if (!key) return {};
+  if (!key) return EntryFault();
   ResultSource source{list, regression};
-  if (key->isPrediction) {
+  if (key->basis == ResultBasis::Prediction) {
     DataEntry entry;
     EntryFault fault = ReadValues(texts, kPredictionValues, entry);
     if (!fault.sentence.empty()) return fault;
@@ -79,9 +79,13 @@ EntryFault Statistics::ShowResult(std::wstring_view caption, const EntryTexts& t
     source.y = entry.values[1];
   }
   // Without a model there is nothing to compute, and the last result is shown again.
-  const bool computes = !key->isRegression || IsRegressionModel(regression.Model());
-  Show(computes ? key->compute(source) : lastResult);
-  return {};
+  if (key->basis == ResultBasis::Sums || IsRegressionModel(regression.Model())) {
+    if (!Prepare(*key, source, watcher)) return std::nullopt;
+    lastResult = key->compute(source);
+    doubt = DoubtOf(*key, source);
+  }
+  ShowLastResult();
+  return EntryFault();
 }
 
 void Statistics::ChooseModel(RegressionModel model) {
@@ -89,8 +93,9 @@ void Statistics::ChooseModel(RegressionModel model) {
   list.ModelChosen(model == RegressionModel::Linear);
 }
 
-std::wstring Statistics::PreparePlot(GraphData& graph) {
-  return PrepareRegressionPlot(list, regression, precision, lastError, graph);
+std::optional<std::wstring> Statistics::PreparePlot(GraphData& graph,
+                                                    const ProgressWatcher& watcher) {
+  return PrepareRegressionPlot(list, regression, precision, watcher, lastError, graph);
 }
 
 std::wstring Statistics::RecallText(std::wstring_view variableText) {
@@ -102,12 +107,11 @@ void Statistics::SetDisplay(DisplayType type, int decimals) {
   precision = decimals;
   Write(store, settings::kDisplayType, static_cast<int>(displayType));
   Write(store, settings::kPrecision, precision);
-  if (!resultLine.empty()) Show(lastResult);
+  if (!resultLine.empty()) ShowLastResult();
 }
 
-void Statistics::Show(double value) {
-  lastResult = value;
-  resultLine = Formatted(value, displayType);
+void Statistics::ShowLastResult() {
+  resultLine = Formatted(lastResult, displayType);
 }
 
 std::wstring Statistics::Formatted(double value, DisplayType type) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@
 #include "stats/DataList.h"
 #include "stats/Regression.h"
 #include "stats/RegressionPlot.h"
+#include "stats/ResultKeys.h"
 
 namespace vexa {
 
@@ -47,11 +49,20 @@ class Statistics {
   void Saved() { list.Saved(); }
 
   /// Computes and shows what the key with this caption stands for. A prediction reads the X and Y
-  /// edits first, and says what is wrong with them.
-  EntryFault ShowResult(std::wstring_view caption, const EntryTexts& texts);
+  /// edits first, and says what is wrong with them. None: `watcher` stopped it, and what is shown
+  /// is as it was.
+  ///
+  /// This and PreparePlot may run on a thread of their own, one at a time, while others use nothing
+  /// but what DataList allows them.
+  std::optional<EntryFault> ShowResult(std::wstring_view caption, const EntryTexts& texts,
+                                       const ProgressWatcher& watcher = Unwatched);
   void ChooseModel(RegressionModel model);
   /// Prepares the plot of the fitted curve; returns the message that refuses it, empty: success.
-  std::wstring PreparePlot(GraphData& graph);
+  /// None: `watcher` stopped it.
+  std::optional<std::wstring> PreparePlot(GraphData& graph,
+                                          const ProgressWatcher& watcher = Unwatched);
+  /// Whether the result that is shown is less than it seems.
+  ResultDoubt Doubt() const { return doubt; }
 
   /// The lines of the "MEM" menu.
   std::vector<PopupCommand> MemoryCommands() const {
@@ -80,11 +91,12 @@ class Statistics {
   /// As the list's cells show it.
   std::wstring FloatingText(double value) { return Formatted(value, DisplayType::FloatingPoint); }
   std::vector<std::wstring> CellTexts(const DataEntry& entry);
-  void Show(double value);
+  void ShowLastResult();
 
   SettingsStore& store;
   DataList list;
   Regression regression;
+  ResultDoubt doubt = ResultDoubt::None;
 };
 
 }  // namespace vexa

@@ -307,7 +307,7 @@ void StatisticsScreen::LoadFrom(const QString& path) {
 }
 
 void StatisticsScreen::ShowResult(std::wstring_view caption) {
-  if (Complain(statistics.ShowResult(caption, form->Texts()))) return;
+  if (Complain(*statistics.ShowResult(caption, form->Texts()))) return;
   Refresh();
 }
 

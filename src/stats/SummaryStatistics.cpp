@@ -5,36 +5,32 @@
 namespace vexa {
 namespace {
 
-void AddTo(ColumnSums& sums, double count, double value) {
-  sums.values += count * value;
-  sums.squares += (value * value) * count;
+/// Of this share of the squares' sum rounding leaves about four digits.
+constexpr double kSafeShare = 1e-12;
+
+const ColumnSums& SumsOf(const DataList& list, std::size_t column) {
+  return column == 0 ? list.Sums().x : list.Sums().y;
+}
+
+/// The sum of the squared deviations from the mean.
+double SquaredDeviations(const ColumnSums& sums, double n) {
+  const double mean = sums.values / n;
+  return sums.squares - (n * mean) * mean;
 }
 
 double Deviation(const DataList& list, std::size_t column, double divisor) {
-  const ColumnSums sums = SumColumn(list, column);
-  const double n = list.Total();
-  const double mean = sums.values / n;
-  const double deviation = sums.squares - (n * mean) * mean;
   // A power, not a square root: below zero, from rounding, both are no number.
-  return std::pow(deviation / divisor, 0.5);
+  return std::pow(SquaredDeviations(SumsOf(list, column), list.Total()) / divisor, 0.5);
 }
 
 }  // namespace
 
-ColumnSums SumColumn(const DataList& list, std::size_t column) {
-  ColumnSums sums;
-  for (std::size_t row = 0; row < list.RowCount(); ++row) {
-    AddTo(sums, list.Count(row), list.Value(row, column));
-  }
-  return sums;
-}
-
 double Sum(const DataList& list, std::size_t column) {
-  return SumColumn(list, column).values;
+  return SumsOf(list, column).values;
 }
 
 double SumOfSquares(const DataList& list, std::size_t column) {
-  return SumColumn(list, column).squares;
+  return SumsOf(list, column).squares;
 }
 
 double Mean(const DataList& list, std::size_t column) {
@@ -49,21 +45,16 @@ double PopulationDeviation(const DataList& list, std::size_t column) {
   return Deviation(list, column, list.Total());
 }
 
-PairSums SumPairs(const DataList& list) {
-  PairSums sums;
-  for (std::size_t row = 0; row < list.RowCount(); ++row) {
-    const double count = list.Count(row);
-    const double x = list.Value(row, 0);
-    const double y = list.Value(row, 1);
-    AddTo(sums.x, count, x);
-    AddTo(sums.y, count, y);
-    sums.products += (count * x) * y;
-  }
-  return sums;
+double SumOfProducts(const DataList& list) {
+  return list.Sums().products;
 }
 
-double SumOfProducts(const DataList& list) {
-  return SumPairs(list).products;
+bool DeviationLosesDigits(const DataList& list, std::size_t column) {
+  const ColumnSums& sums = SumsOf(list, column);
+  const double squares = SquaredDeviations(sums, list.Total());
+  // Equal values that leave nothing are right.
+  if (squares == 0.0 && !(sums.least < sums.greatest)) return false;
+  return std::abs(squares) <= std::abs(sums.squares) * kSafeShare;
 }
 
 }  // namespace vexa

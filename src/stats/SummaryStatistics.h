@@ -4,13 +4,8 @@
 
 namespace vexa {
 
-/// What the statistics of a column are made of, each row weighted by its count. The sums run from
-/// the first row to the last, so that they are the same to the last bit every time.
-struct ColumnSums {
-  double values = 0.0;   ///< of count * value
-  double squares = 0.0;  ///< of (value * value) * count
-};
-ColumnSums SumColumn(const DataList& list, std::size_t column);
+// All are made of the list's sums, which are added up at the first request; see DataList::AddUp for
+// a list with so many rows that it takes long.
 
 // Nothing is checked: what a division by zero or an overflow leaves is the result.
 
@@ -24,13 +19,11 @@ double SampleDeviation(const DataList& list, std::size_t column);
 /// The same with the divisor n.
 double PopulationDeviation(const DataList& list, std::size_t column);
 
-/// What the linear regression of a list with two columns of values is made of.
-struct PairSums {
-  ColumnSums x;
-  ColumnSums y;
-  double products = 0.0;  ///< of (count * x) * y
-};
-PairSums SumPairs(const DataList& list);
+/// The sum of the products of X and Y, of a list with two columns of values.
 double SumOfProducts(const DataList& list);
+
+/// Whether the deviations of a column have lost nearly all digits, for the values have most of
+/// theirs in common: fewer than four of them can be relied on.
+bool DeviationLosesDigits(const DataList& list, std::size_t column);
 
 }  // namespace vexa

@@ -39,7 +39,7 @@ void TwoVarScreen::OpenModelMenu() {
 
 void TwoVarScreen::Plot() {
   GraphData graph;
-  const std::wstring message = Rules().PreparePlot(graph);
+  const std::wstring message = *Rules().PreparePlot(graph);
   if (!message.empty()) return ShowErrorBox(this, message);
   OpenDialog(new GraphViewDialog(Store(), std::move(graph), this));
 }

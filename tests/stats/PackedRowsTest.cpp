@@ -52,8 +52,32 @@ TEST(PackedRows, ChangesRows) {
 TEST(PackedRows, Reorders) {
   PackedRows rows(2);
   for (const char* text : {"a", "b", "c"}) rows.Append(std::vector<std::string>{text, "1"});
-  rows.Arrange(rows.Arranged(std::vector<std::size_t>{2, 0, 1}));
+  rows.Arrange(*rows.Arranged(std::vector<std::size_t>{2, 0, 1}, Unwatched));
   EXPECT_EQ(RowsOf(rows), (Rows{{"c", "1"}, {"a", "1"}, {"b", "1"}}));
+}
+
+TEST(PackedRows, StoppedReorderingLeavesTheRows) {
+  PackedRows rows(2);
+  for (const auto& row : {kFirst, kSecond}) rows.Append(row);
+  EXPECT_FALSE(rows.Arranged(std::vector<std::size_t>{1, 0}, [](double) { return false; }));
+  EXPECT_EQ(RowsOf(rows), (Rows{kFirst, kSecond}));
+}
+
+TEST(PackedRows, WhatWasMovedFromSharesNothingWithItsHeir) {
+  PackedRows rows(2);
+  rows.Append(kFirst);
+  PackedRows heir = std::move(rows);
+  // NOLINTNEXTLINE(bugprone-use-after-move): that it can be used on is promised.
+  EXPECT_EQ(rows.Count(), 0u);
+  rows.Append(kSecond);
+  heir.Append(kFirst);
+  EXPECT_EQ(RowsOf(rows), (Rows{kSecond}));
+  EXPECT_EQ(RowsOf(heir), (Rows{kFirst, kFirst}));
+  rows = std::move(heir);
+  heir.Append(kSecond);
+  rows.Append(kFirst);
+  EXPECT_EQ(RowsOf(rows), (Rows{kFirst, kFirst, kFirst}));
+  EXPECT_EQ(RowsOf(heir), (Rows{kSecond}));
 }
 
 TEST(PackedRows, MovesWithTheirTexts) {

@@ -28,7 +28,9 @@ Prepared Prepare(const Rows& rows, RegressionModel model = RegressionModel::Line
   regression.ChooseModel(model);
   Prepared prepared;
   prepared.lastError = L"of an earlier number";
-  prepared.message = PrepareRegressionPlot(list, regression, 5, prepared.lastError, prepared.graph);
+  prepared.message =
+      PrepareRegressionPlot(list, regression, 5, Unwatched, prepared.lastError, prepared.graph)
+          .value();
   return prepared;
 }
 
@@ -104,7 +106,29 @@ TEST(RegressionPlot, RefusesAnEmptyRange) {
   Regression regression(empty);
   std::wstring lastError;
   GraphData graph;
-  EXPECT_EQ(PrepareRegressionPlot(empty, regression, 5, lastError, graph), emptyX);
+  EXPECT_EQ(PrepareRegressionPlot(empty, regression, 5, Unwatched, lastError, graph), emptyX);
+}
+
+TEST(RegressionPlot, AStoppedPlotChangesNothing) {
+  const DataList list = ListOf({{"1", "2", "1"}, {"3", "6", "1"}});
+  std::wstring lastError = L"of an earlier number";
+  GraphData graph;
+  graph.dataPoints = {{7.0, 8.0}};
+  int reports = 0;
+  const auto count = [&](double) { return ++reports > 0; };
+  Regression watched(list);
+  ASSERT_TRUE(PrepareRegressionPlot(list, watched, 5, count, lastError, graph));
+  for (int stopAt = 1; stopAt <= reports; ++stopAt) {
+    const DataList again = ListOf({{"1", "2", "1"}, {"3", "6", "1"}});
+    Regression regression(again);
+    lastError = L"of an earlier number";
+    graph = GraphData();
+    int heard = 0;
+    const auto stop = [&](double) { return ++heard < stopAt; };
+    EXPECT_FALSE(PrepareRegressionPlot(again, regression, 5, stop, lastError, graph)) << stopAt;
+    EXPECT_EQ(lastError, L"of an earlier number");
+    EXPECT_TRUE(graph.functions.empty() && graph.dataPoints.empty());
+  }
 }
 
 TEST(RegressionPlot, RefusesCoefficientsThatCannotBeShown) {

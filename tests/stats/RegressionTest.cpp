@@ -53,6 +53,50 @@ TEST(Regression, StartsLinear) {
   EXPECT_EQ(regression.PredictX(10.0), 5.0);
 }
 
+TEST(Regression, TheCorrelationDividesByAPowerAndNoRoot) {
+  // Of the squared deviations' product, 46 * 254, the power and the square root differ in the last
+  // bit.
+  const DataList list = ListOf({{"1", "1", "3"},
+                                {"-1", "-1", "3"},
+                                {"1", "0", "20"},
+                                {"-1", "0", "20"},
+                                {"0", "1", "124"},
+                                {"0", "-1", "124"}});
+  volatile double half = 0.5;
+  const double power = std::pow(46.0 * 254.0, half);
+  ASSERT_NE(6.0 / power, 6.0 / std::sqrt(46.0 * 254.0));
+  EXPECT_EQ(Regression(list).Correlation(), 6.0 / power);
+}
+
+TEST(Regression, CountsAreHalvedWhereAModelIsNotLinearAndSomeCountIsNotOne) {
+  const DataList once = ListOf({{"1", "2", "1"}, {"2", "4", "1"}});
+  const DataList counted = ListOf({{"1", "2", "1"}, {"2", "4", "2"}});
+  for (const RegressionModelName& name : kRegressionModels) {
+    Regression ofOnce(once);
+    Regression ofCounted(counted);
+    ofOnce.ChooseModel(name.model);
+    ofCounted.ChooseModel(name.model);
+    EXPECT_FALSE(ofOnce.HalvesCounts());
+    EXPECT_EQ(ofCounted.HalvesCounts(), name.model != RegressionModel::Linear);
+  }
+  Regression without(counted);
+  without.ChooseModel(static_cast<RegressionModel>(7));
+  EXPECT_FALSE(without.HalvesCounts());
+}
+
+TEST(Regression, AStoppedFitChangesNothing) {
+  const DataList list = ListOf({{"1", "2", "1"}, {"2", "4", "1"}, {"3", "7", "1"}});
+  for (const RegressionModelName& name : kRegressionModels) {
+    Regression regression(list);
+    regression.ChooseModel(name.model);
+    EXPECT_FALSE(regression.Fit([](double) { return false; }));
+    EXPECT_TRUE(regression.Fit(Unwatched));
+    const Coefficients fitted = regression.Fitted();
+    EXPECT_TRUE(regression.Fit([](double) { return false; })) << "there is nothing left to stop";
+    EXPECT_EQ(regression.Fitted().a, fitted.a);
+  }
+}
+
 TEST(Regression, Quadratic) {
   const DataList list = ListOf({{"1", "2", "1"}, {"2", "8", "1"}, {"3", "18", "1"}});
   Regression regression(list);
@@ -112,7 +156,8 @@ TEST(Regression, TheEquationsHoldPowersOfTheLibraryToo) {
 TEST(Regression, AModelThatIsNotFittedSoHasNoNumbers) {
   const DataList list = ListOf({{"1", "2", "1"}, {"2", "4", "1"}});
   for (const int model : {0, 1, 7}) {
-    const auto [a, b, c] = FitCurve(list, static_cast<RegressionModel>(model), 2);
+    const auto [a, b, c] =
+        FitCurve(list, static_cast<RegressionModel>(model), 2, Unwatched).value();
     EXPECT_TRUE(std::isnan(a) && std::isnan(b) && std::isnan(c)) << model;
   }
 }

@@ -20,7 +20,7 @@ class StatisticsTest : public testing::Test {
  protected:
   void Add(const EntryTexts& texts) { EXPECT_EQ(statistics.Add(texts).sentence, L""); }
   std::wstring Result(std::wstring_view caption, const EntryTexts& texts = {L"0", L"0", L"1"}) {
-    EXPECT_EQ(statistics.ShowResult(caption, texts).sentence, L"");
+    EXPECT_EQ(statistics.ShowResult(caption, texts)->sentence, L"");
     return statistics.resultLine;
   }
 
@@ -136,9 +136,9 @@ TEST_F(StatisticsTest, ShowsTheRegression) {
 TEST_F(StatisticsTest, PredictionsReadBothEdits) {
   Add({L"1", L"2", L"1"});
   Add({L"2", L"4", L"1"});
-  EXPECT_EQ(statistics.ShowResult(L"Y'", {L"1", L"-", L"1"}).sentence, L"Please enter a number.");
-  EXPECT_EQ(statistics.ShowResult(L"Y'", {L"1", L"-", L"1"}).field, 1u);
-  EXPECT_EQ(statistics.ShowResult(L"X'", {L"", L"1", L"1"}).field, 0u);
+  EXPECT_EQ(statistics.ShowResult(L"Y'", {L"1", L"-", L"1"})->sentence, L"Please enter a number.");
+  EXPECT_EQ(statistics.ShowResult(L"Y'", {L"1", L"-", L"1"})->field, 1u);
+  EXPECT_EQ(statistics.ShowResult(L"X'", {L"", L"1", L"1"})->field, 0u);
   EXPECT_EQ(statistics.resultLine, L"") << "the key does nothing then";
   EXPECT_EQ(Result(L"Y'", {L"1", L"0", L"no count"}), L"2") << "the count is not read";
 }
@@ -171,6 +171,47 @@ TEST_F(StatisticsTest, WithoutAModelTheLastResultIsShownAgain) {
   }
   GraphData graph;
   EXPECT_EQ(statistics.PreparePlot(graph), L" : Expression is null.");
+}
+
+TEST_F(StatisticsTest, AStoppedResultLeavesWhatIsShown) {
+  Add({L"1", L"2", L"1"});
+  Add({L"2", L"4", L"1"});
+  Result(L"ΣX");
+  Add({L"3", L"6", L"1"});
+  const auto stop = [](double) { return false; };
+  for (const auto caption : {L"ΣX", L"σ(n) of Y", L"r", L"A", L"Y'"}) {
+    EXPECT_FALSE(statistics.ShowResult(caption, {L"0", L"0", L"1"}, stop));
+    EXPECT_EQ(statistics.resultLine, L"3");
+    EXPECT_EQ(statistics.lastResult, 3.0);
+  }
+  EXPECT_EQ(statistics.ShowResult(L"Y'", {L"?", L"0", L"1"}, stop)->field, 0u)
+      << "an edit that cannot be read is said at once";
+  EXPECT_EQ(Result(L"ΣX"), L"6");
+}
+
+TEST_F(StatisticsTest, SaysWhenAResultIsLessThanItSeems) {
+  for (const auto y : {L"1", L"2", L"4"}) Add({L"5.1", y, L"1"});
+  Result(L"σ(n-1) of X");
+  EXPECT_EQ(statistics.Doubt(), ResultDoubt::DigitsLost);
+  Result(L"σ(n) of X");
+  EXPECT_EQ(statistics.Doubt(), ResultDoubt::DigitsLost);
+  for (const auto caption : {L"σ(n-1) of Y", L"σ(n) of Y", L"ΣX", L"Mean of X", L"A"}) {
+    Result(caption);
+    EXPECT_EQ(statistics.Doubt(), ResultDoubt::None);
+  }
+  Add({L"6", L"8", L"2"});
+  statistics.ChooseModel(RegressionModel::Exponential);
+  for (const auto caption : {L"A", L"B", L"Y'", L"X'"}) {
+    Result(caption);
+    EXPECT_EQ(statistics.Doubt(), ResultDoubt::CountsHalved);
+  }
+  Result(L"ΣXY");
+  EXPECT_EQ(statistics.Doubt(), ResultDoubt::None);
+  Result(L"A");
+  statistics.ChooseModel(RegressionModel::Linear);
+  EXPECT_EQ(statistics.Doubt(), ResultDoubt::CountsHalved) << "what is shown is as it was";
+  Result(L"A");
+  EXPECT_EQ(statistics.Doubt(), ResultDoubt::None);
 }
 
 TEST_F(StatisticsTest, OverflowIsTheLastErrorUntilTheNextNumber) {
@@ -229,7 +270,7 @@ TEST_F(StatisticsTest, ClearLeavesTheResultLine) {
 }
 
 TEST_F(StatisticsTest, KeysThatComputeNothingAreLeftAlone) {
-  EXPECT_EQ(statistics.ShowResult(L"MEM", {L"0", L"0", L"1"}).sentence, L"");
+  EXPECT_EQ(statistics.ShowResult(L"MEM", {L"0", L"0", L"1"})->sentence, L"");
   EXPECT_EQ(statistics.resultLine, L"");
 }
 

@@ -13,6 +13,7 @@ namespace vexa {
 namespace {
 
 using test::ListOf;
+using test::Rows;
 
 TEST(SummaryStatistics, WeighsRowsByTheirCounts) {
   const DataList list = ListOf({{"2", "3"}, {"4", "1"}});
@@ -68,12 +69,48 @@ TEST(SummaryStatistics, EmptyListDividesByZero) {
 
 TEST(SummaryStatistics, RoundingBelowZeroIsNoNumber) {
   const DataList list = ListOf({{"96904065.1", "5"}, {"96904065.1", "2"}});
-  const ColumnSums sums = SumColumn(list, 0);
+  const ColumnSums& sums = list.Sums().x;
   const double n = list.Total();
   const double mean = sums.values / n;
   ASSERT_LT(sums.squares - (n * mean) * mean, 0.0);
   EXPECT_TRUE(std::isnan(SampleDeviation(list, 0)));
   EXPECT_TRUE(std::isnan(PopulationDeviation(list, 0)));
+}
+
+TEST(SummaryStatistics, DeviationsThatLostTheirDigits) {
+  const struct {
+    Rows rows;
+    bool lost;
+  } cases[] = {
+      {Rows(7, {"9.81", "1"}), true},   // below 0: no number
+      {Rows(3, {"5.1", "1"}), true},    // 0.000000084294
+      {Rows(3, {"5.25", "1"}), false},  // 0, exactly
+      {Rows(3, {"0", "1"}), false},
+      {{{"1", "1"}, {"2", "1"}, {"4", "1"}}, false},
+      {{{"1000000.1", "1"}, {"1000000.3", "1"}, {"1000000.2", "1"}}, true},
+      {{{"1000.1", "1"}, {"1000.3", "1"}, {"1000.2", "1"}}, false},
+      {{{"100000000000", "1"}, {"100000000001", "1"}}, true},  // 0, though they differ
+      {{{"5.25", "2"}, {"7", "0"}}, false},
+      {{{"1e200", "1"}, {"2e200", "1"}}, false},  // an overflow
+      {{{"2", "1"}, {"9", "-1"}}, false},         // the division by a total of 0
+      {{{"2", "3"}, {"9", "-1"}}, false},         // below 0, and rightly so
+      {{}, false},
+  };
+  for (const auto& [rows, lost] : cases) {
+    EXPECT_EQ(DeviationLosesDigits(ListOf(rows), 0), lost) << testing::PrintToString(rows);
+  }
+  const DataList pairs = ListOf({{"5.1", "1", "1"}, {"5.1", "2", "1"}, {"5.1", "4", "1"}});
+  EXPECT_TRUE(DeviationLosesDigits(pairs, 0));
+  EXPECT_FALSE(DeviationLosesDigits(pairs, 1));
+}
+
+TEST(SummaryStatistics, DeviationsArePowersAndNoRoots) {
+  // Of 2921 the power and the square root differ in the last bit.
+  volatile double half = 0.5;
+  const double power = std::pow(2921.0, half);
+  ASSERT_NE(power, std::sqrt(2921.0));
+  EXPECT_EQ(PopulationDeviation(ListOf({{"2921", "1"}, {"-2921", "1"}, {"0", "5840"}}), 0), power);
+  EXPECT_EQ(SampleDeviation(ListOf({{"2921", "1"}, {"-2921", "1"}, {"0", "5841"}}), 0), power);
 }
 
 TEST(SummaryStatistics, NIsTheTotalThatWraps) {
@@ -89,7 +126,7 @@ TEST(SummaryStatistics, TwoVariables) {
   EXPECT_EQ(Sum(list, 1), 19.0);
   EXPECT_EQ(SumOfSquares(list, 1), 201.0);
   EXPECT_EQ(SumOfProducts(list), 17.0);
-  const PairSums sums = SumPairs(list);
+  const ListSums& sums = list.Sums();
   EXPECT_EQ(sums.x.values, 5.0);
   EXPECT_EQ(sums.y.squares, 201.0);
   EXPECT_EQ(sums.products, 17.0);

@@ -142,8 +142,8 @@ class RegressionVectors : public testing::Test {
                  Regression& regression) {
     std::wstring lastError;
     GraphData graph;
-    const std::wstring message =
-        PrepareRegressionPlot(list, regression, testCase["precision"].toInt(), lastError, graph);
+    const std::wstring message = *PrepareRegressionPlot(
+        list, regression, testCase["precision"].toInt(), Unwatched, lastError, graph);
     EXPECT_EQ(message, expected["message"].toString().toStdWString());
     EXPECT_EQ(lastError, message);
     std::wstring ignored;
