@@ -41,7 +41,7 @@ void CheckSorted(DataList& list, std::size_t column) {
 
 void CheckFits(const DataList& list) {
   Regression regression(list);
-  for (const RegressionModelName& name : kRegressionModels) {
+  for (const RegressionCurve& name : kRegressionModels) {
     regression.ChooseModel(name.model);
     const Coefficients first = regression.Fitted();
     regression.Invalidate();

@@ -1,27 +1,12 @@
 #include "stats/LeastSquares.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
-
-#include "stats/NormalEquations.h"
 
 namespace vexa {
 namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-
-/// What the axes of a model's data are before the fit.
-struct Transformation {
-  RegressionModel model;
-  bool logarithmOfX;
-  bool logarithmOfY;
-};
-constexpr Transformation kTransformations[] = {
-    {RegressionModel::Power, true, true},        {RegressionModel::Inverse, true, true},
-    {RegressionModel::Logarithmic, true, false}, {RegressionModel::Exponential, false, true},
-    {RegressionModel::Quadratic, false, false},
-};
 
 /// `base` to the power of a small whole number. The square, too, is the function's: in one of a
 /// thousand cases its last bit is not the product's.
@@ -34,8 +19,8 @@ double Power(double base, std::size_t exponent) {
 /// The equations of a fit, to which rows are added in turn.
 class Equations {
  public:
-  Equations(const Transformation& dataTransformation, std::size_t coefficientCount)
-      : transformation(dataTransformation), count(coefficientCount) {}
+  Equations(const TransformedFit& transformedFit, std::size_t coefficientCount)
+      : fit(transformedFit), count(coefficientCount) {}
 
   void Add(const NumberPiece& piece) {
     for (std::size_t i = 0; i < piece.x.size(); ++i) {
@@ -53,8 +38,8 @@ class Equations {
   }
 
  private:
-  double Basis(double x) const { return transformation.logarithmOfX ? std::log(x) : x; }
-  double Target(double y) const { return transformation.logarithmOfY ? std::log(y) : y; }
+  double Basis(double x) const { return fit.logarithmOfX ? std::log(x) : x; }
+  double Target(double y) const { return fit.logarithmOfY ? std::log(y) : y; }
 
   void Add(double weight, double x, double y) {
     const double t = Basis(x);
@@ -72,7 +57,7 @@ class Equations {
     }
   }
 
-  const Transformation transformation;
+  const TransformedFit& fit;
   const std::size_t count;
   /// Elements of the matrix with the same sum of indices are the same sum of powers.
   std::array<double, 2 * kMostCoefficients - 1> powers{};
@@ -108,27 +93,12 @@ double CorrelationOf(const DataList& list) {
 
 std::optional<Coefficients> FitCurve(const DataList& list, RegressionModel model, std::size_t count,
                                      const ProgressWatcher& watcher) {
-  const auto transformation = std::ranges::find(kTransformations, model, &Transformation::model);
-  if (transformation == std::ranges::end(kTransformations)) {
-    return Coefficients{kNoNumber, kNoNumber, kNoNumber};
-  }
-  Equations equations(*transformation, count);
+  const RegressionCurve* const curve = FindCurve(model);
+  if (!curve || !curve->fit) return Coefficients{kNoNumber, kNoNumber, kNoNumber};
+  Equations equations(*curve->fit, count);
   const auto add = [&](const NumberPiece& piece) { equations.Add(piece); };
   if (!list.VisitNumbers(add, watcher)) return std::nullopt;
-  const auto c = Solve(equations.Result(), count);
-  switch (model) {
-    case RegressionModel::Inverse: {
-      // Fitted as a power is, and unlike the others taken back this way; meant.
-      const double b = std::exp(-c[1]);
-      return Coefficients{std::exp(c[0]) - b, b, 0.0};
-    }
-    case RegressionModel::Logarithmic:
-      return Coefficients{c[1], c[0], 0.0};
-    case RegressionModel::Quadratic:
-      return Coefficients{c[2], c[1], c[0]};
-    default:
-      return Coefficients{std::exp(c[0]), c[1], 0.0};
-  }
+  return curve->fit->takeBack(Solve(equations.Result(), count));
 }
 
 }  // namespace vexa

@@ -1,6 +1,7 @@
 #include "stats/Regression.h"
 
 #include <cmath>
+#include <limits>
 
 #include "stats/LeastSquares.h"
 
@@ -9,6 +10,8 @@ namespace {
 
 /// The share of a fit at which the rows are added up.
 constexpr double kAddedUp = 0.5;
+
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
 
@@ -19,11 +22,9 @@ void Regression::ChooseModel(RegressionModel chosen) {
 
 bool Regression::Fit(const ProgressWatcher& watcher) {
   if (!list.AddUp(PartOf(watcher, 0.0, kAddedUp))) return false;
-  if (!IsRegressionModel(model)) return true;
-  if (model != RegressionModel::Linear) {
-    const std::size_t count = model == RegressionModel::Quadratic ? 3 : 2;
-    return FitCurve(model, count, PartOf(watcher, kAddedUp, 1.0));
-  }
+  const RegressionCurve* const curve = FindCurve(model);
+  if (!curve) return true;
+  if (curve->fit) return FitCurve(model, curve->fit->count, PartOf(watcher, kAddedUp, 1.0));
   if (!coefficientsValid) coefficients = FitLine(list);
   coefficientsValid = true;
   return true;
@@ -52,7 +53,8 @@ double Regression::FitCoefficients(RegressionModel fittedModel, std::size_t coun
 }
 
 bool Regression::HalvesCounts() const {
-  return IsRegressionModel(model) && model != RegressionModel::Linear && list.Sums().weighted;
+  const RegressionCurve* const curve = FindCurve(model);
+  return curve && curve->fit && list.Sums().weighted;
 }
 
 double Regression::Correlation() const {
@@ -60,38 +62,13 @@ double Regression::Correlation() const {
 }
 
 double Regression::PredictY(double x) {
-  const auto [a, b, c] = Fitted();
-  switch (model) {
-    case RegressionModel::Power:
-      return a * std::pow(x, b);
-    case RegressionModel::Inverse:
-      return a / x + b;
-    case RegressionModel::Logarithmic:
-      return a * std::log(x) + b;
-    case RegressionModel::Exponential:
-      return a * std::exp(b * x);
-    case RegressionModel::Quadratic:
-      return (b * x + a * std::pow(x, 2.0)) + c;
-    case RegressionModel::Linear:
-      break;
-  }
-  return a * x + b;
+  const RegressionCurve* const curve = FindCurve(model);
+  return curve ? curve->predictY(Fitted(), x) : kNoNumber;
 }
 
 double Regression::PredictX(double y) {
-  const auto [a, b, c] = Fitted();
-  switch (model) {
-    case RegressionModel::Power:
-      return std::pow(y / a, 1.0 / b);
-    case RegressionModel::Inverse:
-      return a / (y - b);
-    case RegressionModel::Logarithmic:
-      return std::exp((y - b) / a);
-    case RegressionModel::Exponential:
-      return (std::log(y) - std::log(a)) / b;
-    default:
-      return (y - b) / a;
-  }
+  const RegressionCurve* const curve = FindCurve(model);
+  return curve && curve->predictX ? curve->predictX(Fitted(), y) : kNoNumber;
 }
 
 double Regression::FirstRoot(double y) {

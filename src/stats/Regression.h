@@ -5,13 +5,6 @@
 
 namespace vexa {
 
-/// The coefficients of a curve; C is the quadratic model's.
-struct Coefficients {
-  double a = 0.0;
-  double b = 0.0;
-  double c = 0.0;
-};
-
 /// Fits the chosen model to the rows of a list with two columns of values. Nothing is checked: what
 /// logarithms, divisions and powers outside their domain leave is the result.
 class Regression {
@@ -40,9 +33,10 @@ class Regression {
   /// The linear correlation coefficient of the rows, whatever the model.
   double Correlation() const;
 
-  /// The curve's Y at `x`.
+  /// The curve's Y at `x`. Without a model this and PredictX are no numbers.
   double PredictY(double x);
-  /// The X where the curve has the value `y`; not for the quadratic model, which has two of them.
+  /// The X where the curve has the value `y`; no number for the quadratic
+  /// model, which has two of them.
   double PredictX(double y);
   /// The two X where the quadratic curve has the value `y`.
   double FirstRoot(double y);

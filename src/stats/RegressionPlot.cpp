@@ -1,6 +1,5 @@
 #include "stats/RegressionPlot.h"
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -11,22 +10,6 @@ namespace vexa {
 namespace {
 
 constexpr double kMargin = 0.3;
-
-/// A curve's text: what stands behind A and behind B, and whether C ends it.
-struct CurvePattern {
-  RegressionModel model;
-  std::wstring_view afterA;
-  std::wstring_view afterB;
-  bool hasC;
-};
-constexpr CurvePattern kCurvePatterns[] = {
-    {RegressionModel::Linear, L"*X+", L"", false},
-    {RegressionModel::Power, L"*X^", L"", false},
-    {RegressionModel::Inverse, L"/X+", L"", false},
-    {RegressionModel::Logarithmic, L"*ln(X)+", L"", false},
-    {RegressionModel::Exponential, L"*exp(", L"*X)", false},
-    {RegressionModel::Quadratic, L"*X^2+", L"*X+", true},
-};
 
 struct Extent {
   double min = 0.0;
@@ -66,17 +49,18 @@ Extent WithMargins(const Extent& extent) {
 
 std::wstring CurveText(RegressionModel model, const Coefficients& coefficients, int precision,
                        std::wstring& lastError) {
-  const auto pattern = std::ranges::find(kCurvePatterns, model, &CurvePattern::model);
-  if (pattern == std::ranges::end(kCurvePatterns)) return {};
+  const RegressionCurve* const found = FindCurve(model);
+  if (!found) return {};
+  const CurvePattern& pattern = found->pattern;
   const auto text = [&](double coefficient) {
     return FormatResult(coefficient, DisplayType::FloatingPoint, precision, BaseType::Dec,
                         lastError);
   };
   std::wstring curve = text(coefficients.a);
-  curve += pattern->afterA;
+  curve += pattern.afterA;
   curve += text(coefficients.b);
-  curve += pattern->afterB;
-  if (pattern->hasC) curve += text(coefficients.c);
+  curve += pattern.afterB;
+  if (pattern.hasC) curve += text(coefficients.c);
   return curve;
 }
 

@@ -79,17 +79,43 @@ constexpr Key kTwoVarKeys[] = {
 // clang-format on
 
 /// Keys that are shown in one of two states only.
-enum class Shown { WhileEditing, WhileNotEditing, ForQuadratic, ForOthers };
+enum class Shown { WhileEditing, WhileNotEditing, WithC, WithoutC, WithOneX, WithTwoX };
 struct ShownKey {
   std::wstring_view caption;
   Shown shown;
 };
 constexpr ShownKey kShownKeys[] = {
-    {L"Add", Shown::WhileNotEditing}, {L"Ok", Shown::WhileEditing},
-    {L"Cancel", Shown::WhileEditing}, {L"r", Shown::ForOthers},
-    {L"X'", Shown::ForOthers},        {L"C", Shown::ForQuadratic},
-    {L"X1'", Shown::ForQuadratic},    {L"X2'", Shown::ForQuadratic},
+    {L"Add", Shown::WhileNotEditing},
+    {L"Ok", Shown::WhileEditing},
+    {L"Cancel", Shown::WhileEditing},
+    {L"r", Shown::WithoutC},
+    {L"C", Shown::WithC},
+    {L"X'", Shown::WithOneX},
+    {L"X1'", Shown::WithTwoX},
+    {L"X2'", Shown::WithTwoX},
 };
+
+/// Whether a key that is shown in one of two states is shown in this one.
+bool IsShown(Shown shown, const StatisticsKeypadState& state) {
+  const RegressionCurve* const curve = FindCurve(state.model);
+  const bool hasC = curve && curve->pattern.hasC;
+  const bool hasTwoX = curve && !curve->predictX;
+  switch (shown) {
+    case Shown::WhileEditing:
+      return state.editing;
+    case Shown::WhileNotEditing:
+      return !state.editing;
+    case Shown::WithC:
+      return hasC;
+    case Shown::WithoutC:
+      return !hasC;
+    case Shown::WithOneX:
+      return !hasTwoX;
+    case Shown::WithTwoX:
+      return hasTwoX;
+  }
+  return true;
+}
 
 /// What enables a key; the others need the statistics.
 struct ControlKey {
@@ -103,11 +129,15 @@ constexpr ControlKey kControlKeys[] = {
 };
 constexpr std::wstring_view kAlwaysEnabled[] = {L"Add", L"Ok", L"Cancel", L"MEM"};
 
-const RegressionModelName* ModelOf(const Key& key) {
-  const auto name =
-      std::ranges::find(kRegressionModels, key.caption, &RegressionModelName::caption);
-  return name == kRegressionModels.end() ? nullptr : &*name;
+const RegressionCurve* CurveOf(const Key& key) {
+  const auto curve = std::ranges::find(kRegressionModels, key.caption, &RegressionCurve::caption);
+  return curve == kRegressionModels.end() ? nullptr : &*curve;
 }
+
+// Each model needs its key, which opens the menu of models.
+static_assert(std::ranges::all_of(kRegressionModels, [](const RegressionCurve& curve) {
+  return std::ranges::find(kTwoVarKeys, curve.caption, &Key::caption) != std::end(kTwoVarKeys);
+}));
 
 }  // namespace
 
@@ -125,21 +155,10 @@ std::span<const Key> TwoVarKeys() {
 }
 
 bool IsKeyShown(const Key& key, const StatisticsKeypadState& state) {
-  if (const RegressionModelName* const name = ModelOf(key)) return name->model == state.model;
+  if (const RegressionCurve* const curve = CurveOf(key)) return curve->model == state.model;
   const auto entry = std::ranges::find(kShownKeys, key.caption, &ShownKey::caption);
   if (entry == std::ranges::end(kShownKeys)) return true;
-  const bool quadratic = state.model == RegressionModel::Quadratic;
-  switch (entry->shown) {
-    case Shown::WhileEditing:
-      return state.editing;
-    case Shown::WhileNotEditing:
-      return !state.editing;
-    case Shown::ForQuadratic:
-      return quadratic;
-    case Shown::ForOthers:
-      break;
-  }
-  return !quadratic;
+  return IsShown(entry->shown, state);
 }
 
 bool IsKeyEnabled(const Key& key, const StatisticsKeypadState& state) {

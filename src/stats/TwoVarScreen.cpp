@@ -18,16 +18,14 @@ TwoVarScreen::TwoVarScreen(SettingsStore& settingsStore, QWidget* parent)
 
 void TwoVarScreen::RunKey(std::wstring_view caption) {
   if (caption == L"Plot") return Plot();
-  const auto isModel = [caption](const RegressionModelName& name) {
-    return name.caption == caption;
-  };
+  const auto isModel = [caption](const RegressionCurve& name) { return name.caption == caption; };
   if (std::ranges::any_of(kRegressionModels, isModel)) return OpenModelMenu();
   StatisticsScreen::RunKey(caption);
 }
 
 void TwoVarScreen::OpenModelMenu() {
   std::vector<PopupCommand> models;
-  for (const RegressionModelName& name : kRegressionModels) {
+  for (const RegressionCurve& name : kRegressionModels) {
     models.push_back({static_cast<int>(name.model), std::wstring(name.menuText)});
   }
   const QPoint corner = ResultKeys()->Button(kRegressionModels[0].caption)->geometry().topRight();

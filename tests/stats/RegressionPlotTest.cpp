@@ -80,7 +80,7 @@ TEST(RegressionPlot, CurveTexts) {
 TEST(RegressionPlot, EveryModelWithSignsOfAllKindsCanBeDrawn) {
   const Rows rising{{"1", "2", "1"}, {"2", "3", "1"}, {"5", "9", "1"}};
   const Rows falling{{"1", "9", "1"}, {"2", "3", "1"}, {"5", "2", "1"}};
-  for (const RegressionModelName& name : kRegressionModels) {
+  for (const RegressionCurve& name : kRegressionModels) {
     EXPECT_EQ(Prepare(rising, name.model).message, L"");
     EXPECT_EQ(Prepare(falling, name.model).message, L"");
   }

@@ -71,7 +71,7 @@ TEST(Regression, TheCorrelationDividesByAPowerAndNoRoot) {
 TEST(Regression, CountsAreHalvedWhereAModelIsNotLinearAndSomeCountIsNotOne) {
   const DataList once = ListOf({{"1", "2", "1"}, {"2", "4", "1"}});
   const DataList counted = ListOf({{"1", "2", "1"}, {"2", "4", "2"}});
-  for (const RegressionModelName& name : kRegressionModels) {
+  for (const RegressionCurve& name : kRegressionModels) {
     Regression ofOnce(once);
     Regression ofCounted(counted);
     ofOnce.ChooseModel(name.model);
@@ -86,7 +86,7 @@ TEST(Regression, CountsAreHalvedWhereAModelIsNotLinearAndSomeCountIsNotOne) {
 
 TEST(Regression, AStoppedFitChangesNothing) {
   const DataList list = ListOf({{"1", "2", "1"}, {"2", "4", "1"}, {"3", "7", "1"}});
-  for (const RegressionModelName& name : kRegressionModels) {
+  for (const RegressionCurve& name : kRegressionModels) {
     Regression regression(list);
     regression.ChooseModel(name.model);
     EXPECT_FALSE(regression.Fit([](double) { return false; }));
@@ -176,7 +176,7 @@ TEST(Regression, InverseIsTakenBackFromTheLogarithms) {
 TEST(Regression, PredictionsInvertEachOther) {
   const DataList list =
       ListOf({{"1", "3", "1"}, {"2", "5.5", "1"}, {"4", "11", "1"}, {"5", "16", "1"}});
-  for (const RegressionModelName& name : kRegressionModels) {
+  for (const RegressionCurve& name : kRegressionModels) {
     if (name.model == RegressionModel::Quadratic) continue;
     Regression regression(list);
     regression.ChooseModel(name.model);

@@ -59,12 +59,12 @@ TEST(StatisticsKeypad, TwoVarCaptionsOfTheLinearModel) {
 }
 
 TEST(StatisticsKeypad, KeysOfEachModel) {
-  for (const RegressionModelName& name : kRegressionModels) {
+  for (const RegressionCurve& name : kRegressionModels) {
     const Captions shown = CaptionsWhere(TwoVarKeys(), IsKeyShown, WithModel(name.model));
     const bool quadratic = name.model == RegressionModel::Quadratic;
     for (const auto caption : {L"r", L"X'"}) EXPECT_EQ(Has(shown, caption), !quadratic);
     for (const auto caption : {L"C", L"X1'", L"X2'"}) EXPECT_EQ(Has(shown, caption), quadratic);
-    for (const RegressionModelName& other : kRegressionModels) {
+    for (const RegressionCurve& other : kRegressionModels) {
       EXPECT_EQ(Has(shown, other.caption), other.model == name.model);
     }
   }
@@ -111,7 +111,7 @@ TEST(StatisticsKeypad, StatisticsEnableAllButTheCorrelation) {
 TEST(StatisticsKeypad, NoTwoShownKeysShareACell) {
   for (const auto keys : kTables) {
     for (const bool editing : {false, true}) {
-      for (const RegressionModelName& name : kRegressionModels) {
+      for (const RegressionCurve& name : kRegressionModels) {
         StatisticsKeypadState state = WithModel(name.model);
         state.editing = editing;
         std::set<std::pair<int, int>> cells;

@@ -174,7 +174,7 @@ TEST_F(RegressionVectors, AllModels) {
   const auto cases = ReadCases("regress.jsonl");
   ASSERT_EQ(cases.size(), 141u);
   for (const QJsonObject& testCase : cases) {
-    for (const RegressionModelName& name : kRegressionModels) {
+    for (const RegressionCurve& name : kRegressionModels) {
       SCOPED_TRACE(Title(testCase) + " " + Narrow(name.menuText));
       CheckModel(testCase, name.model);
     }
