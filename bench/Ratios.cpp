@@ -81,17 +81,24 @@ void Ratios::Ratio(const std::string& what, const Work& ours, const std::string&
   if (!IsWanted(what)) return;
   const std::size_t ourTimes = TimesOf(ours);
   const std::size_t theirTimes = TimesOf(yardstick);
-  std::vector<double> ourTime, theirTime, ratios;
+  std::vector<double> ourTime, theirTime;
   std::size_t repetitions = kMostRepetitions;
   for (std::size_t i = 0; i < repetitions; ++i) {
     const double start = Now();
     ourTime.push_back(TimeOf(ours, ourTimes));
     theirTime.push_back(TimeOf(yardstick, theirTimes));
-    ratios.push_back(ourTime.back() / theirTime.back());
     if (i == 0) repetitions = Repetitions(Now() - start);
   }
+  Compare(what, ourTime, yardstickName, theirTime, bound);
+}
+
+void Ratios::Compare(const std::string& what, const std::vector<double>& ours,
+                     const std::string& yardstickName, const std::vector<double>& yardstick,
+                     double bound) {
+  std::vector<double> ratios;
+  for (std::size_t i = 0; i < ours.size(); ++i) ratios.push_back(ours[i] / yardstick[i]);
   const double ratio = Median(ratios);
-  Add({what, TimeText(Median(ourTime)), yardstickName + " " + TimeText(Median(theirTime)),
+  Add({what, TimeText(Median(ours)), yardstickName + " " + TimeText(Median(yardstick)),
        Text("%.3f", ratio), bound == kUnbounded ? "" : Text("%.3g", bound),
        ratio - bound <= Spread(ratios)});
 }

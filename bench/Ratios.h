@@ -31,6 +31,10 @@ class Ratios {
   /// How long `ours` takes, against `yardstick`.
   void Ratio(const std::string& what, const Work& ours, const std::string& yardstickName,
              const Work& yardstick, double bound = kUnbounded);
+  /// The same, of times in nanoseconds that were measured in turns.
+  void Compare(const std::string& what, const std::vector<double>& ours,
+               const std::string& yardstickName, const std::vector<double>& yardstick,
+               double bound);
   /// How long `ours` takes, in nanoseconds.
   void Time(const std::string& what, const Work& ours, double bound = kUnbounded);
   /// A number that was found in another way. `spread`: how far it may be off.

@@ -2,7 +2,6 @@
 // sorting, scrolling, and the memory they take, against a bare loop over the same file in the same
 // run.
 
-#include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <unistd.h>
 
@@ -14,9 +13,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <memory>
 #include <random>
+#include <span>
 
-#include "MedianReporter.h"
+#include "Ratios.h"
 #include "display/MemorySettingsStore.h"
 #include "stats/DataFileAccess.h"
 #include "stats/OneVarScreen.h"
@@ -30,14 +31,14 @@ using namespace vexa::bench;
 namespace {
 
 constexpr int kRows = 1'000'000;
-constexpr int kRepetitions = 5;
 constexpr const char* kOneVarFile = "statistics-rows.txt";
 constexpr const char* kTwoVarFile = "statistics-pairs.txt";
 
 constexpr double kLoadBound = 6.0;
 constexpr double kStatisticBound = 3.0;
-constexpr double kSortBoundMs = 2000.0;
-constexpr double kScrollBoundMs = 16.0;
+/// In nanoseconds.
+constexpr double kSortBound = 2e9;
+constexpr double kScrollBound = 16e6;
 constexpr double kMemoryBound = 120.0;
 
 /// Rows as the program itself writes them: twelve decimals, mostly counted once.
@@ -80,13 +81,14 @@ double ParseSum(const std::string& bytes) {
   return sum;
 }
 
-void BareLoop(benchmark::State& state) {
-  for (auto _ : state) benchmark::DoNotOptimize(ParseSum(ReadWhole(kOneVarFile)));
+void BareLoop(std::size_t times) {
+  for (; times > 0; --times) Use(ParseSum(ReadWhole(kOneVarFile)));
 }
 
-void BareParse(benchmark::State& state, const char* name) {
-  const std::string bytes = ReadWhole(name);
-  for (auto _ : state) benchmark::DoNotOptimize(ParseSum(bytes));
+Work BareParse(const char* name) {
+  return [bytes = ReadWhole(name)](std::size_t times) {
+    for (; times > 0; --times) Use(ParseSum(bytes));
+  };
 }
 
 /// The 1-Var screen in a window.
@@ -110,21 +112,26 @@ struct Shown {
   OneVarScreen screen;
 };
 
-void LoadAndShow(benchmark::State& state) {
-  Shown shown;
-  for (auto _ : state) shown.Load();
-  if (shown.Table()->model()->rowCount() != kRows) state.SkipWithError("the rows are not there");
+Work LoadAndShow() {
+  const auto shown = std::make_shared<Shown>();
+  return [=](std::size_t times) {
+    for (; times > 0; --times) shown->Load();
+    if (shown->Table()->model()->rowCount() == kRows) return;
+    std::fprintf(stderr, "the rows are not there\n");
+    std::exit(EXIT_FAILURE);
+  };
 }
 
-void Scroll(benchmark::State& state) {
-  Shown shown;
-  shown.Load();
-  QScrollBar* const bar = shown.Table()->verticalScrollBar();
-  std::mt19937 random(2);
-  for (auto _ : state) {
-    bar->setValue(static_cast<int>(random() % static_cast<unsigned>(bar->maximum())));
-    shown.Table()->viewport()->repaint();
-  }
+Work Scroll() {
+  const auto shown = std::make_shared<Shown>();
+  shown->Load();
+  return [=, random = std::mt19937(2)](std::size_t times) mutable {
+    QScrollBar* const bar = shown->Table()->verticalScrollBar();
+    for (; times > 0; --times) {
+      bar->setValue(static_cast<int>(random() % static_cast<unsigned>(bar->maximum())));
+      shown->Table()->viewport()->repaint();
+    }
+  };
 }
 
 DataList ListOf(std::span<const ListColumn> columns, const char* name) {
@@ -139,24 +146,26 @@ DataList ListOf(std::span<const ListColumn> columns, const char* name) {
   return list;
 }
 
-void Result(benchmark::State& state, const DataList& list, const ResultKey& key,
-            RegressionModel model) {
-  Regression regression(list);
-  for (auto _ : state) {
-    // Fits anew each time.
-    regression.ChooseModel(model);
-    benchmark::DoNotOptimize(key.compute({list, regression, 1.5, 2.5}));
-  }
+Work Result(const DataList& list, const ResultKey& key, RegressionModel model) {
+  const auto regression = std::make_shared<Regression>(list);
+  return [=, &list, &key](std::size_t times) {
+    for (; times > 0; --times) {
+      // Fits anew each time.
+      regression->ChooseModel(model);
+      Use(key.compute({list, *regression, 1.5, 2.5}));
+    }
+  };
 }
 
-void Sort(benchmark::State& state) {
-  DataList list = ListOf(kTwoVarColumns, kTwoVarFile);
+Work Sort() {
+  const auto list = std::make_shared<DataList>(ListOf(kTwoVarColumns, kTwoVarFile));
   // The columns are independent, so each sort finds the rows in no order.
-  std::size_t column = 0;
-  for (auto _ : state) {
-    list.Sort(column);
-    column = 1 - column;
-  }
+  return [=, column = std::size_t{0}](std::size_t times) mutable {
+    for (; times > 0; --times) {
+      list->Sort(column);
+      column = 1 - column;
+    }
+  };
 }
 
 /// Resident memory in bytes, without what the allocator keeps for later.
@@ -176,10 +185,35 @@ double MemoryPerRow() {
   return (Memory() - before) / kRows;
 }
 
-void PrintRatio(const MedianReporter& reporter, const std::string& name,
-                const std::string& yardstick, double bound) {
-  std::printf("ratio %s %.2f (bound %.2f)\n", name.c_str(),
-              reporter.Median(name) / reporter.Median(yardstick), bound);
+/// A statistic, by its key.
+struct Statistic {
+  const char* name;
+  const wchar_t* key;
+  RegressionModel model = RegressionModel::Linear;
+};
+constexpr Statistic kOneVarStatistics[] = {
+    {"sum", L"ΣX"},
+    {"sum of squares", L"ΣX^2"},
+    {"mean", L"Arithmetic Mean of X"},
+    {"deviation n-1", L"σ(n-1) of X"},
+    {"deviation n", L"σ(n) of X"},
+};
+constexpr Statistic kTwoVarStatistics[] = {
+    {"sum of products", L"ΣXY"},
+    {"correlation", L"r"},
+    {"linear fit", L"A"},
+    {"power fit", L"A", RegressionModel::Power},
+    {"logarithmic fit", L"A", RegressionModel::Logarithmic},
+    {"exponential fit", L"A", RegressionModel::Exponential},
+    {"quadratic fit", L"A", RegressionModel::Quadratic},
+};
+
+void MeasureStatistics(Ratios& ratios, std::span<const Statistic> statistics, const DataList& list,
+                       const char* file) {
+  for (const Statistic& statistic : statistics) {
+    ratios.Ratio(statistic.name, Result(list, *FindResultKey(statistic.key), statistic.model),
+                 "parse", BareParse(file), kStatisticBound);
+  }
 }
 
 }  // namespace
@@ -187,61 +221,16 @@ void PrintRatio(const MedianReporter& reporter, const std::string& name,
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
   QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
+  Ratios ratios(argv[1]);
   WriteFile(kOneVarFile, 1);
   WriteFile(kTwoVarFile, 2);
-  const double bytesPerRow = MemoryPerRow();
-
-  const auto measure = [](const std::string& name, auto function) {
-    benchmark::RegisterBenchmark(name.c_str(), function)
-        ->Repetitions(kRepetitions)
-        ->Unit(benchmark::kMillisecond);
-  };
-  measure("bare loop", BareLoop);
-  measure("parse", [](benchmark::State& state) { BareParse(state, kOneVarFile); });
-  measure("parse pairs", [](benchmark::State& state) { BareParse(state, kTwoVarFile); });
-  measure("load and show", LoadAndShow);
-  measure("sort", Sort);
-  measure("scroll", Scroll);
-
-  const DataList one = ListOf(kOneVarColumns, kOneVarFile);
-  const DataList two = ListOf(kTwoVarColumns, kTwoVarFile);
-  struct Measured {
-    std::string name;
-    std::string yardstick;
-  };
-  std::vector<Measured> statistics;
-  const auto measureKey = [&](const std::string& name, const wchar_t* caption, const DataList& list,
-                              RegressionModel model) {
-    const ResultKey& key = *FindResultKey(caption);
-    measure(name, [&, model](benchmark::State& state) { Result(state, list, key, model); });
-    statistics.push_back({name, &list == &one ? "parse" : "parse pairs"});
-  };
-  using enum RegressionModel;
-  measureKey("sum", L"ΣX", one, Linear);
-  measureKey("sum of squares", L"ΣX^2", one, Linear);
-  measureKey("mean", L"Arithmetic Mean of X", one, Linear);
-  measureKey("deviation n-1", L"σ(n-1) of X", one, Linear);
-  measureKey("deviation n", L"σ(n) of X", one, Linear);
-  measureKey("sum of products", L"ΣXY", two, Linear);
-  measureKey("correlation", L"r", two, Linear);
-  measureKey("linear fit", L"A", two, Linear);
-  measureKey("power fit", L"A", two, Power);
-  measureKey("logarithmic fit", L"A", two, Logarithmic);
-  measureKey("exponential fit", L"A", two, Exponential);
-  measureKey("quadratic fit", L"A", two, Quadratic);
-
-  MedianReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  PrintRatio(reporter, "load and show", "bare loop", kLoadBound);
-  for (const Measured& statistic : statistics) {
-    PrintRatio(reporter, statistic.name, statistic.yardstick, kStatisticBound);
-  }
-  std::printf("sort %.0f ms (bound %.0f)\n", reporter.Median("sort") / 1e6, kSortBoundMs);
-  std::printf("scroll %.2f ms (bound %.0f)\n", reporter.Median("scroll") / 1e6, kScrollBoundMs);
-  std::printf("memory %.1f bytes a row (bound %.0f)\n", bytesPerRow, kMemoryBound);
+  ratios.Figure("memory of loaded rows", MemoryPerRow(), "bytes a row", kMemoryBound);
+  ratios.Ratio("load and show", LoadAndShow(), "bare loop", BareLoop, kLoadBound);
+  ratios.Time("sort", Sort(), kSortBound);
+  ratios.Time("scroll", Scroll(), kScrollBound);
+  MeasureStatistics(ratios, kOneVarStatistics, ListOf(kOneVarColumns, kOneVarFile), kOneVarFile);
+  MeasureStatistics(ratios, kTwoVarStatistics, ListOf(kTwoVarColumns, kTwoVarFile), kTwoVarFile);
   std::remove(kOneVarFile);
   std::remove(kTwoVarFile);
-  return EXIT_SUCCESS;
+  return ratios.Finish();
 }

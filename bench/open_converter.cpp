@@ -4,8 +4,8 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QPointer>
-#include <cstdio>
 
+#include "Ratios.h"
 #include "converter/UnitConverterDialog.h"
 #include "display/MemorySettingsStore.h"
 #include "toolkit/Theme.h"
@@ -67,7 +67,10 @@ int main(int argc, char** argv) {
   while (!watch.painted) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   frame.removeEventFilter(&watch);
 
-  std::printf("first use %.1f ms (bound %.0f ms)\n", OpenOnce(store, &frame), kBoundMilliseconds);
-  for (int n = 0; n < kLaterUses; ++n) std::printf("later %.1f ms\n", OpenOnce(store, &frame));
-  return 0;
+  bench::Ratios ratios(nullptr);
+  ratios.Figure("first use of the converter", OpenOnce(store, &frame), "ms", kBoundMilliseconds);
+  std::vector<double> later;
+  for (int n = 0; n < kLaterUses; ++n) later.push_back(OpenOnce(store, &frame));
+  ratios.Figure("later uses of the converter", bench::Median(later), "ms", kBoundMilliseconds);
+  return ratios.Finish();
 }

@@ -14,6 +14,7 @@
 #include <stdexcept>
 #include <thread>
 
+#include "Ratios.h"
 #include "WatchedDisplay.h"
 
 using namespace vexa::bench;
@@ -28,15 +29,9 @@ constexpr double kMemoryBound = 16.0;
 struct Program {
   std::string file;
   FinishedPicture painted{};
-  std::vector<double> times{};     ///< ms
+  std::vector<double> times{};     ///< ns
   std::vector<double> memories{};  ///< MiB
 };
-
-double Median(std::vector<double> values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
-}
 
 /// The program finds a home with what an earlier run left there, and never the user's own.
 void UseHome(const std::filesystem::path& home) {
@@ -69,7 +64,8 @@ void LearnPicture(WatchedDisplay& display, Program& program) {
 void Measure(WatchedDisplay& display, Program& program) {
   const auto start = Clock::now();
   ChildProcess process({program.file});
-  program.times.push_back(Milliseconds(display.WaitFor(program.painted) - start).count());
+  const auto time = display.WaitFor(program.painted) - start;
+  program.times.push_back(std::chrono::duration<double, std::nano>(time).count());
   // What is still to be done for the first window belongs to the start's memory.
   std::this_thread::sleep_for(Milliseconds(200));
   program.memories.push_back(static_cast<double>(process.PeakMemory()) / 1024.0);
@@ -77,7 +73,7 @@ void Measure(WatchedDisplay& display, Program& program) {
   display.WaitFor(display.Empty());
 }
 
-void Compare(const std::string& calculatorFile, const std::string& bareFile, int runs) {
+int Compare(const std::string& calculatorFile, const std::string& bareFile, int runs) {
   UseHome(std::filesystem::absolute("startup-home"));
   WatchedDisplay display;
   Program calculator{calculatorFile};
@@ -89,15 +85,14 @@ void Compare(const std::string& calculatorFile, const std::string& bareFile, int
     Measure(display, bare);
   }
 
-  const double time = Median(calculator.times);
-  const double bareTime = Median(bare.times);
-  std::printf(
-      "start to painted window, medians of %d runs, each at most %.0f ms too long or short\n", runs,
-      display.LongestRead().count());
-  std::printf("calculator %.0f ms, bare window %.0f ms\n", time, bareTime);
-  std::printf("ratio start-up %.2f (bound %.2f)\n", time / bareTime, kTimeBound);
-  std::printf("peak memory above the bare window %.1f MiB (bound %.0f)\n",
-              Median(calculator.memories) - Median(bare.memories), kMemoryBound);
+  std::fprintf(stderr, "each start at most %.0f ms too long or short\n",
+               display.LongestRead().count());
+  Ratios ratios(nullptr);
+  ratios.Compare("start to painted window", calculator.times, "bare window", bare.times,
+                 kTimeBound);
+  ratios.Figure("peak memory above the bare window",
+                Median(calculator.memories) - Median(bare.memories), "MiB", kMemoryBound);
+  return ratios.Finish();
 }
 
 }  // namespace
@@ -108,7 +103,7 @@ int main(int argc, char** argv) {
     return EXIT_FAILURE;
   }
   try {
-    Compare(argv[1], argv[2], argc > 3 ? std::max(1, std::atoi(argv[3])) : kRuns);
+    return Compare(argv[1], argv[2], argc > 3 ? std::max(1, std::atoi(argv[3])) : kRuns);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "startup: %s\n", failure.what());
     return EXIT_FAILURE;

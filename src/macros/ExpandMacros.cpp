@@ -56,22 +56,21 @@ class CallEvaluator {
     formulaEngine.angleMode = angle;
   }
 
-  /// The value of `call`, or a sentence in `error`.
-  double Evaluate(const MacroCallText& call, std::wstring& error) {
+  /// Finds the value of `call`. Returns the sentence of a failure; empty: success.
+  std::wstring Evaluate(const MacroCallText& call, double& value) {
     const std::optional<int> index = macros.Find(call.name);
-    if (!index) return error = kMacroNameError, 0.0;
+    if (!index) return std::wstring(kMacroNameError);
     const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
     const auto values = EvaluateArguments(call, static_cast<std::size_t>(type) + 1, argumentEngine);
-    if (!values) return error = kMacroArgumentError, 0.0;
+    if (!values) return std::wstring(kMacroArgumentError);
     parser.formulaType = type;
     parser.Validate(macros.ReadFormula(*index));
-    if (!parser.errorText.empty()) return error = kMacroFormulaError, 0.0;
-    const std::span records(parser.tokens.data(), static_cast<std::size_t>(parser.tokenCount));
-    SubstituteVariables(records, *values);
-    formulaEngine.LoadTokens(records);
+    if (!parser.errorText.empty()) return std::wstring(kMacroFormulaError);
+    formulaEngine.LoadTokens(parser.Records());
+    SubstituteVariables(formulaEngine.tokens, *values);
     formulaEngine.EvaluateTokens();
-    error = formulaEngine.errorText;
-    return formulaEngine.result;
+    value = formulaEngine.result;
+    return formulaEngine.errorText;
   }
 
  private:
@@ -107,7 +106,8 @@ MacroExpansion ExpandMacros(std::wstring_view expression, const MacroTable& macr
       expansion.error = kExpressionErrorText;
       return expansion;
     }
-    const double value = evaluator.Evaluate(*call, expansion.error);
+    double value = 0.0;
+    expansion.error = evaluator.Evaluate(*call, value);
     if (!expansion.error.empty()) return expansion;
     expansion.lastResult = value;
     expansion.lastMacroText = FixedText(value, kValueDecimals);

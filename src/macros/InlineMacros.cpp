@@ -1,6 +1,7 @@
 #include "macros/InlineMacros.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "engine/AsciiCase.h"
@@ -83,8 +84,7 @@ bool HasLoneFunction(std::wstring_view formula) {
   const auto lone = [](const Token& a, const Token& b) {
     return a.kind == kFunctionKind && b.op == ')';
   };
-  const auto end = parser.tokens.begin() + parser.tokenCount;
-  return std::adjacent_find(parser.tokens.begin(), end, lone) != end;
+  return std::ranges::adjacent_find(parser.Records(), lone) != parser.Records().end();
 }
 
 /// `text` with single blanks only: more take room and mean nothing.
@@ -104,22 +104,23 @@ class CallInliner {
     }
   }
 
-  /// What `call` stands for, or a sentence in `error`.
-  std::wstring Inlined(const MacroCallText& call, std::wstring& error) {
+  /// Appends what `call` stands for to `text`. Returns the sentence of a failure; empty: success.
+  std::wstring Append(const MacroCallText& call, std::wstring& text) {
     const std::optional<int> index = Find(call.name);
-    if (!index) return error = kMacroNameError, L"";
+    if (!index) return std::wstring(kMacroNameError);
     const FormulaType type = MacroTypeOf(macros.At(*index).type).formulaType;
     const Arguments arguments = Split(call.arguments);
     const bool areFormulas = std::ranges::all_of(
         arguments, [](std::wstring_view argument) { return IsFormula(argument, kAnyVariables); });
     if (call.commas != static_cast<std::size_t>(type) || arguments.size() != call.commas + 1 ||
         !areFormulas) {
-      return error = kMacroArgumentError, L"";
+      return std::wstring(kMacroArgumentError);
     }
     const std::wstring& formula = FormulaOf(*index, type);
-    if (formula.empty()) return error = kMacroFormulaError, L"";
-    if (ClosesTooEarly(formula)) return error = kExpressionErrorText, L"";
-    return InParentheses(Substituted(formula, arguments));
+    if (formula.empty()) return std::wstring(kMacroFormulaError);
+    if (ClosesTooEarly(formula)) return std::wstring(kExpressionErrorText);
+    text += InParentheses(Substituted(formula, arguments));
+    return {};
   }
 
  private:
@@ -149,32 +150,39 @@ class CallInliner {
   std::vector<KnownMacro> known;
 };
 
+/// Appends `formula`, which has calls, to `text`, with formulas in their places. Returns the
+/// sentence of a failure; empty: success.
+std::wstring InlineCalls(std::wstring_view formula, const MacroTable& macros, std::wstring& text) {
+  const std::wstring expressionError(kExpressionErrorText);
+  std::size_t mark = formula.find(kMacroCallMark);
+  // Only the first call's left neighbour is tested; the engine sees the others'.
+  if (!MayPrecedeCall(formula.substr(0, mark))) return expressionError;
+  CallInliner calls(macros);
+  // More calls than a formula has records are not worth the room that they take.
+  for (int n = 0; n <= kMaxTokens && mark != std::wstring_view::npos; ++n) {
+    text += formula.substr(0, mark);
+    formula.remove_prefix(mark + kMacroCallMark.size());
+    const std::optional<MacroCallText> call = ReadMacroCall(formula);
+    if (!call) return expressionError;
+    std::wstring sentence = calls.Append(*call, text);
+    if (!sentence.empty()) return sentence;
+    formula.remove_prefix(call->length);
+    mark = formula.find(kMacroCallMark);
+  }
+  text += formula;
+  return HasLoneFunction(text) ? expressionError : std::wstring();
+}
+
 }  // namespace
 
 std::wstring InlineMacros(std::wstring_view formula, const MacroTable& macros,
                           std::wstring& error) {
   error.clear();
-  if (formula.find(kMacroCallMark) == std::wstring_view::npos) return std::wstring(formula);
-  const std::wstring spared = WithSingleBlanks(std::wstring(formula));
-  std::wstring_view rest = spared;
-  std::size_t mark = rest.find(kMacroCallMark);
-  // Only the first call's left neighbour is tested; the engine sees the others'.
-  if (!MayPrecedeCall(rest.substr(0, mark))) return error = kExpressionErrorText;
-  std::wstring text;
-  CallInliner calls(macros);
-  // More calls than a formula has records are not worth the room that they take.
-  for (int n = 0; n <= kMaxTokens && mark != std::wstring_view::npos; ++n) {
-    text += rest.substr(0, mark);
-    rest.remove_prefix(mark + kMacroCallMark.size());
-    const std::optional<MacroCallText> call = ReadMacroCall(rest);
-    if (!call) return error = kExpressionErrorText;
-    text += calls.Inlined(*call, error);
-    if (!error.empty()) return error;
-    rest.remove_prefix(call->length);
-    mark = rest.find(kMacroCallMark);
-  }
-  text += rest;
-  if (HasLoneFunction(text)) error = kExpressionErrorText;
+  std::wstring text(formula);
+  if (formula.find(kMacroCallMark) == std::wstring_view::npos) return text;
+  const std::wstring spared = WithSingleBlanks(std::move(text));
+  text.clear();
+  error = InlineCalls(spared, macros, text);
   return text;
 }
 

@@ -114,6 +114,20 @@ TEST_F(InlineMacrosTest, ManyCallsOfALongFormulaEndSoon) {
   EXPECT_LT(text.size(), 200'000u);
 }
 
+TEST_F(InlineMacrosTest, AsManyCallsAreInlinedAsAnEngineHasRecords) {
+  constexpr int kCalls = 151;
+  for (const int left : {0, 1, 2}) {
+    std::wstring formula;
+    std::wstring expected;
+    for (int n = 0; n < kCalls + left; ++n) {
+      formula += L"+M:sq(x)";
+      expected += n < kCalls ? L"+((x)^2)" : L"+M:sq(x)";
+    }
+    EXPECT_EQ(Inlined(formula), expected) << left;
+    EXPECT_EQ(error, L"");
+  }
+}
+
 TEST_F(InlineMacrosTest, NamesAreFoundWithoutTheirBlanks) {
   macros.AddMacro(L"my f", L"TYPE1 : F(X)", L"x+1");
   EXPECT_EQ(Inlined(L"M:myf(x)"), L"((x)+1)");
