@@ -26,6 +26,8 @@ MacroListDialog::MacroListDialog(SettingsStore& store, QWidget* parent)
   formula->setAccessibleName(QStringLiteral("Macro Expression"));
   formula->setReadOnly(true);
   formula->setTabChangesFocus(true);
+  // The text wraps: no bar for the part of a pixel, which would take a row.
+  formula->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   formula->setFixedHeight(kFormulaHeight);
   Content()->addWidget(formula);
   QHBoxLayout* const row = AddButtonRow();
