@@ -5,6 +5,7 @@
 
 #include "converter/UnitConversion.h"
 #include "toolkit/NumberBox.h"
+#include "toolkit/TypesetNumbers.h"
 
 namespace vexa {
 namespace {
@@ -79,9 +80,10 @@ ListEditor::Refusal UserConversionEditor::Check(const ConversionBoxes& typed,
     return {conversion.name + std::wstring(kExistsAlready), FirstName};
   }
   if (*rate == 0) return {std::wstring(kRateInvalid), Rate};
+  // A stored rate ends at its first ",": grouping is for the eye only, as is a typeset minus.
   conversion.rateText = typed.rate;
-  // A stored rate ends at its first ",": grouping is for the eye only.
-  std::erase(conversion.rateText, L',');
+  std::erase_if(conversion.rateText, IsGroupMark);
+  std::ranges::replace(conversion.rateText, kTypesetMinus, L'-');
   return {};
 }
 

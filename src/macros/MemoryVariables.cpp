@@ -1,12 +1,19 @@
 #include "macros/MemoryVariables.h"
 
-#include <cmath>
-
 #include "display/SettingsLayout.h"
 #include "engine/NumberText.h"
 #include "toolkit/NumberBox.h"
 
 namespace vexa {
+namespace {
+
+/// "inf" and "nan" are no numbers, though a text-to-double conversion takes them.
+bool HasDigitsInFront(std::wstring_view text) {
+  const std::size_t front = text.find_first_not_of(L" \t\n\v\f\r+-.\u2212");
+  return front != text.npos && text[front] >= L'0' && text[front] <= L'9';
+}
+
+}  // namespace
 
 std::wstring MemoryVariables::Text(int index) const {
   return Read(store, settings::kMemoryVariable, index);
@@ -15,15 +22,11 @@ std::wstring MemoryVariables::Text(int index) const {
 double MemoryVariables::Value(int index) const {
   // The unit converter stores its results as it shows them, grouped at thousands.
   const std::wstring text = Text(index);
-  const double value = ReadNumberBox(text).value_or(TextToDouble(text));
-  return std::isfinite(value) ? value : 0.0;
+  return HasDigitsInFront(text) ? ReadNumberBox(text).value_or(TextToDouble(text)) : 0.0;
 }
 
 std::wstring MemoryVariables::FormulaText(int index) const {
-  std::wstring text = Text(index);
-  if (!ReadNumberBox(text)) return L"0";
-  std::erase_if(text, [](wchar_t c) { return c == L',' || c <= L' '; });
-  return text;
+  return PlainNumber(Text(index)).value_or(L"0");
 }
 
 std::wstring MemoryVariables::Line(int index) const {

@@ -21,7 +21,7 @@ class MemoryVariables {
 
   /// The text kept in slot `index`, 0 to kCount - 1.
   std::wstring Text(int index) const;
-  /// The number in slot `index`; 0 when its text is none, or none that can be calculated with.
+  /// The number in slot `index`; 0 when its text is none, infinite when it is too large.
   double Value(int index) const;
   /// The number in slot `index` as a formula can hold it: its text without separators and blanks;
   /// "0" when the text is no number.

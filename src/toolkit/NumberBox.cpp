@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
 #include "engine/NumberText.h"
+#include "toolkit/TypesetNumbers.h"
 
 namespace vexa {
 namespace {
@@ -12,10 +15,21 @@ constexpr std::wstring_view kBlanks = L" \t\n\v\f\r";
 constexpr std::wstring_view kDigits = L"0123456789";
 constexpr std::size_t kGroup = 3;
 
-std::wstring_view Trimmed(std::wstring_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  text.remove_suffix(text.size() - (text.find_last_not_of(kBlanks) + 1));
-  return text;
+bool Holds(std::wstring_view characters, wchar_t c) {
+  return characters.find(c) != characters.npos;
+}
+
+bool IsBlank(wchar_t c) {
+  return Holds(kBlanks, c) || Holds(kHardBlanks, c);
+}
+
+/// `text` without the blanks around it, its typeset minus signs plain.
+std::wstring Trimmed(std::wstring_view text) {
+  const auto first = std::ranges::find_if_not(text, IsBlank);
+  const auto end = std::find_if_not(text.rbegin(), std::make_reverse_iterator(first), IsBlank);
+  std::wstring trimmed(first, end.base());
+  std::ranges::replace(trimmed, kTypesetMinus, L'-');
+  return trimmed;
 }
 
 /// Takes the digits at the front of `text` and returns how many there were.
@@ -27,18 +41,19 @@ std::size_t TakeDigits(std::wstring_view& text) {
 
 /// Takes a character of `choice` from the front of `text`, if one stands there.
 bool Take(std::wstring_view& text, std::wstring_view choice) {
-  if (text.empty() || choice.find(text.front()) == std::wstring_view::npos) return false;
+  if (text.empty() || !Holds(choice, text.front())) return false;
   text.remove_prefix(1);
   return true;
 }
 
 /// Takes the digits of an integer part, grouped or not, and returns how many there were; none when
-/// a group is not complete.
+/// a group is not complete or its mark is another than the first one.
 std::optional<std::size_t> TakeIntegerPart(std::wstring_view& text) {
   std::size_t count = TakeDigits(text);
-  if (!text.starts_with(L',')) return count;
+  if (text.empty() || !IsGroupMark(text.front())) return count;
   if (count == 0 || count > kGroup) return std::nullopt;
-  while (Take(text, L",")) {
+  const std::wstring_view mark = text.substr(0, 1);
+  while (Take(text, mark)) {
     if (TakeDigits(text) != kGroup) return std::nullopt;
     count += kGroup;
   }
@@ -65,27 +80,36 @@ bool IsNumber(std::wstring_view text) {
   return *integerDigits + decimals > 0 && TakeExponent(text) && text.empty();
 }
 
-/// The value of a text that is a number.
-double ValueOf(std::wstring_view text) {
-  std::wstring plain(text);
-  std::erase(plain, L',');
-  return TextToDouble(plain);
+/// A number without its grouping.
+std::wstring Ungrouped(std::wstring number) {
+  std::erase_if(number, IsGroupMark);
+  return number;
 }
 
 }  // namespace
 
-std::optional<double> ReadNumberBox(std::wstring_view text) {
-  const std::wstring_view number = Trimmed(text);
+bool IsGroupMark(wchar_t c) {
+  return c == L',' || Holds(kHardBlanks, c);
+}
+
+std::optional<std::wstring> PlainNumber(std::wstring_view text) {
+  std::wstring number = Trimmed(text);
   if (!IsNumber(number)) return std::nullopt;
-  const double value = ValueOf(number);
-  if (!std::isfinite(value)) return std::nullopt;
-  return value;
+  number = Ungrouped(std::move(number));
+  if (!std::isfinite(TextToDouble(number))) return std::nullopt;
+  return number;
+}
+
+std::optional<double> ReadNumberBox(std::wstring_view text) {
+  const std::optional<std::wstring> number = PlainNumber(text);
+  if (!number) return std::nullopt;
+  return TextToDouble(*number);
 }
 
 std::wstring ReadIntegerBox(std::wstring_view text, int low, int high, int& value) {
-  const std::wstring_view number = Trimmed(text);
+  const std::wstring number = Trimmed(text);
   if (!IsInteger(number)) return std::wstring(kEnterInteger);
-  const double integer = ValueOf(number);
+  const double integer = TextToDouble(Ungrouped(number));
   if (integer < low || integer > high) {
     return L"Please enter an integer between " + std::to_wstring(low) + L" and " +
            std::to_wstring(high) + L".";

@@ -1,8 +1,15 @@
 #include "toolkit/ResultLine.h"
 
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QTextLayout>
 #include <algorithm>
+
+#include "display/WideText.h"
+#include "toolkit/CopiedText.h"
 
 namespace vexa {
 namespace {
@@ -38,6 +45,35 @@ ResultLine::ResultLine(QWidget* parent) : QPlainTextEdit(parent) {
 void ResultLine::ShowText(const QString& text) {
   setPlainText(text);
   FitText();
+}
+
+bool ResultLine::event(QEvent* event) {
+  // The key that copies is the result's own here, whatever menu has it too.
+  const bool asks = event->type() == QEvent::ShortcutOverride;
+  if (asks && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+    event->accept();
+    return true;
+  }
+  return QPlainTextEdit::event(event);
+}
+
+QMimeData* ResultLine::createMimeDataFromSelection() const {
+  const std::wstring selected = textCursor().selection().toPlainText().toStdWString();
+  auto* const copied = new QMimeData;
+  copied->setText(FromWide(CopiedText(toPlainText().toStdWString(), selected)));
+  return copied;
+}
+
+void ResultLine::keyPressEvent(QKeyEvent* event) {
+  // Nothing selected: the result is meant.
+  if (event->matches(QKeySequence::Copy) && !textCursor().hasSelection()) selectAll();
+  QPlainTextEdit::keyPressEvent(event);
+}
+
+void ResultLine::mouseDoubleClickEvent(QMouseEvent* event) {
+  // A number is one word, whatever stands between its digits.
+  if (event->button() == Qt::LeftButton) return selectAll();
+  QPlainTextEdit::mouseDoubleClickEvent(event);
 }
 
 void ResultLine::resizeEvent(QResizeEvent* event) {

@@ -4,9 +4,9 @@
 
 namespace vexa {
 
-/// A right-aligned text of one or more lines for reading: selectable, can be copied, and always
-/// shown whole, in the largest size that has room, a line over several rows where a row is too
-/// short.
+/// A right-aligned text of one or more lines for reading: selectable, can be copied (a number as an
+/// expression holds it), and always shown whole, in the largest size that has room, a line over
+/// several rows where a row is too short.
 class ResultLine : public QPlainTextEdit {
   Q_OBJECT
 
@@ -17,6 +17,10 @@ class ResultLine : public QPlainTextEdit {
   void ShowText(const QString& text);
 
  protected:
+  bool event(QEvent* event) override;
+  QMimeData* createMimeDataFromSelection() const override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

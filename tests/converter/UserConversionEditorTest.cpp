@@ -229,6 +229,9 @@ TEST(UserConversionEditor, AGroupedRateIsReadBackWhole) {
   editor.New();
   EXPECT_EQ(editor.Save({L"a", L"b", L"1,234,567.5"}).sentence, L"");
   EXPECT_EQ(ReadRate(editor.Conversions().At(0).rateText), 1234567.5);
+  editor.New();
+  EXPECT_EQ(editor.Save({L"c", L"d", L"\u22121\u2009234e\u22123"}).sentence, L"");
+  EXPECT_EQ(editor.Conversions().At(1).rateText, L"-1234e-3");
 }
 
 TEST(UserConversionEditor, DeleteSelectsWhatTakesItsPlace) {

@@ -32,6 +32,10 @@ class MemoryKeyTest : public QObject {
   void ADoubleTapRecalls();
   void TextsThatAreNoNumbersRecallAsZero_data();
   void TextsThatAreNoNumbersRecallAsZero();
+  void WhatCannotBeShownIsTold_data();
+  void WhatCannotBeShownIsTold();
+  void AnOverflowedRegisterLeavesTheMenu();
+  void ARecallWithoutRoomIsTold();
 
  private:
   void Choose(const char* command) {
@@ -280,7 +284,7 @@ void MemoryKeyTest::ADoubleTapRecalls() {
 
 void MemoryKeyTest::TextsThatAreNoNumbersRecallAsZero_data() {
   QTest::addColumn<QString>("text");
-  for (const char* text : {"", "hello", "inf", "-nan", "1e999", "+-1", ",5"}) {
+  for (const char* text : {"", "hello", "inf", "-nan", "+-1", ",5"}) {
     QTest::newRow(text) << QString::fromLatin1(text);
   }
 }
@@ -294,6 +298,52 @@ void MemoryKeyTest::TextsThatAreNoNumbersRecallAsZero() {
   calculator->Write("");
   RecallFrom(0);
   QCOMPARE(calculator->Marked(), QStringLiteral("0|"));
+}
+
+void MemoryKeyTest::WhatCannotBeShownIsTold_data() {
+  QTest::addColumn<QString>("text");
+  for (const char* text : {"1e400", "1.798e+308", "-1e999", " 1e400"}) {
+    QTest::newRow(text) << QString::fromLatin1(text);
+  }
+}
+
+void MemoryKeyTest::WhatCannotBeShownIsTold() {
+  QFETCH(QString, text);
+  Write(calculator->store, settings::kMemoryVariable, 0, text.toStdWString());
+  for (const char* base : {"Decimal", "Hexadecimal"}) {
+    calculator->ChooseBase(base);
+    calculator->Write("");
+    RecallFrom(0);
+    QCOMPARE(calculator->Marked(), QStringLiteral("Out of range(overflow or underflow)|"));
+  }
+}
+
+void MemoryKeyTest::AnOverflowedRegisterLeavesTheMenu() {
+  calculator->Calculate("1e308");
+  Choose("Memory +");
+  Choose("Memory +");
+  calculator->Press("MEM");
+  const QStringList menu = calculator->PopupTexts("Memory");
+  QCOMPARE(menu.size(), qsizetype{7});
+  calculator->ClosePopup("Memory");
+  calculator->Write("");
+  Choose("Memory Recall");
+  QCOMPARE(calculator->Marked(), QStringLiteral("Out of range(overflow or underflow)|"));
+  calculator->Press("MEM");
+  QCOMPARE(calculator->PopupTexts("Memory"), menu);
+  calculator->ClosePopup("Memory");
+}
+
+void MemoryKeyTest::ARecallWithoutRoomIsTold() {
+  calculator->Calculate("1234.5");
+  Choose("Memory +");
+  const QString full(10000, u'1');
+  calculator->edit->setPlainText(full);
+  Choose("Memory Recall");
+  QCOMPARE(test::ShownBox(), test::Error("Expression exceeded length limit."));
+  test::AnswerBox();
+  QCOMPARE(calculator->edit->toPlainText(), full);
+  QVERIFY(calculator->LineHasFocus());
 }
 
 }  // namespace vexa

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "display/MemorySettingsStore.h"
 #include "display/SettingsLayout.h"
 
@@ -31,11 +33,31 @@ TEST(MemoryVariables, StoreWritesTheSlotAtOnce) {
 TEST(MemoryVariables, TextThatIsNoNumberIsZero) {
   MemorySettingsStore store;
   MemoryVariables variables(store);
-  for (const std::wstring_view text : {L"hello", L"", L"inf", L"-infinity", L"nan", L"1e999"}) {
+  for (const std::wstring_view text : {L"hello", L"", L"inf", L"-infinity", L"nan", L"-nan(5)"}) {
     variables.Store(3, text);
     EXPECT_EQ(variables.Value(3), 0.0);
     EXPECT_EQ(variables.Line(3), L"Mem04 = " + std::wstring(text));
   }
+}
+
+TEST(MemoryVariables, TooLargeNumbersAreInfinite) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const std::pair<const wchar_t*, double> cases[] = {
+      {L"1e400", kInfinity}, {L"1.798e+308", kInfinity}, {L"-1e999", -kInfinity}, {L"1e-400", 0.0}};
+  for (const auto& [text, value] : cases) {
+    variables.Store(3, text);
+    EXPECT_EQ(variables.Value(3), value);
+  }
+}
+
+TEST(MemoryVariables, TypesetNumbersAreRead) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  variables.Store(3, L"\u22121\u2009234.5");
+  EXPECT_EQ(variables.Value(3), -1234.5);
+  EXPECT_EQ(variables.FormulaText(3), L"-1234.5");
 }
 
 TEST(MemoryVariables, TheNumberAtTheFrontCounts) {

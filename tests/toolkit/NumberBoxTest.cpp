@@ -45,6 +45,14 @@ TEST(NumberBox, ReadsNumbers) {
       {L"123,456,789", 123456789.0},
       {L"999,999,999,999.5", 999999999999.5},
       {L"1,234.5e3", 1234500.0},
+      // What web pages and spreadsheets give.
+      {L"\u22125", -5.0},
+      {L"\u22121,234.5e\u22123", -1.2345},
+      {L"\u00a05\u00a0", 5.0},
+      {L"\u2009 5\u202f\n", 5.0},
+      {L"1\u00a0234", 1234.0},
+      {L"1\u2009234\u2009567.5", 1234567.5},
+      {L"\u221212\u202f345", -12345.0},
   };
   for (const auto& c : cases) {
     const auto value = ReadNumberBox(c.text);
@@ -55,17 +63,21 @@ TEST(NumberBox, ReadsNumbers) {
 }
 
 const std::wstring_view kNoNumbers[] = {
-    L"",         L" ",          L"-",      L"+",       L".",      L"-.",       L"e5",
-    L"1e",       L"1e+",        L"1e5.0",  L"1 2",     L"- 1",    L"--1",      L"+-1",
-    L"1-",       L"1..2",       L"1.2.3",  L"12abc",   L"abc",    L"0x10",     L"1p3",
-    L"inf",      L"-inf",       L"nan",    L"NaN",     L"1e999",  L"-1e309",   L"1,5",
-    L"1,50",     L"1,2345",     L",123",   L"1,",      L"1,,234", L"1234,567", L"12,34,567",
-    L"1,234,56", L"1.234,567",  L"1,234,", L"1e1,000", L"0,5",    L"\u0661",   L"\u22125",
-    L"5\u00a0",  L"1\u2009234", L"\uff11",
+    L"",       L" ",        L"-",         L"+",        L".",         L"-.",     L"e5",      L"1e",
+    L"1e+",    L"1e5.0",    L"1 2",       L"- 1",      L"--1",       L"+-1",    L"1-",      L"1..2",
+    L"1.2.3",  L"12abc",    L"abc",       L"0x10",     L"1p3",       L"inf",    L"-inf",    L"nan",
+    L"NaN",    L"1e999",    L"-1e309",    L"1,5",      L"1,50",      L"1,2345", L",123",    L"1,",
+    L"1,,234", L"1234,567", L"12,34,567", L"1,234,56", L"1.234,567", L"1,234,", L"1e1,000", L"0,5",
+    L"1 234",  L"\u0661",   L"\uff11",
+};
+const std::wstring_view kNoTypesetNumbers[] = {
+    L"\u2212",         L"5\u2212",  L"\u2212-5",     L"1\u200923", L"1\u00a02345",
+    L"1\u202f234,567", L"1\u00d75", L"1.5\u00a0000", L"\u00a0",
 };
 
 TEST(NumberBox, RefusesEverythingElse) {
   for (const auto text : kNoNumbers) EXPECT_FALSE(ReadNumberBox(text)) << Narrow(text);
+  for (const auto text : kNoTypesetNumbers) EXPECT_FALSE(ReadNumberBox(text)) << Narrow(text);
   EXPECT_FALSE(ReadNumberBox(std::wstring_view(L"1\0", 2))) << "a hidden character";
 }
 
@@ -85,7 +97,27 @@ TEST(NumberBox, ReadsWhatTheFormatterWrites) {
   }
 }
 
+TEST(NumberBox, ThePlainNumberIsAnExpressions) {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {{L"1,234.5", L"1234.5"},
+                                                             {L"  42 ", L"42"},
+                                                             {L"+1", L"+1"},
+                                                             {L"1.50", L"1.50"},
+                                                             {L"\u22121\u2009234", L"-1234"},
+                                                             {L"2e\u22123", L"2e-3"},
+                                                             {L"1E+013", L"1E+013"}};
+  for (const auto& [text, plain] : cases) EXPECT_EQ(PlainNumber(text), plain) << Narrow(plain);
+  for (const auto text : kNoNumbers) EXPECT_FALSE(PlainNumber(text)) << Narrow(text);
+}
+
+TEST(NumberBox, TheLongestNumberHasRoom) {
+  std::wstring digits = L"-1";
+  for (int n = 0; n < 102; ++n) digits += L",000";
+  EXPECT_EQ(*ReadNumberBox(digits), -1e306);
+  EXPECT_LT(digits.size() + 20, kNumberLength.longest);
+}
+
 TEST(NumberBox, Sentences) {
+  EXPECT_EQ(kNumberLength.sentence, L"Number exceeded length limit.");
   EXPECT_EQ(kEnterNumber, L"Please enter a number.");
   EXPECT_EQ(kEnterInteger, L"Please enter an integer.");
 }

@@ -19,6 +19,9 @@ class ResultLineTest : public QObject {
   void SeveralLongLinesAreWhole();
   void TheTextFollowsTheSize();
   void CanBeSelectedAndCopied();
+  void CopyWithoutASelectionTakesAll();
+  void ASentenceIsCopiedAsItStands();
+  void ADoubleClickSelectsAll();
   void CannotBeEdited();
 };
 
@@ -123,7 +126,41 @@ void ResultLineTest::CanBeSelectedAndCopied() {
   line.setFocus();
   QTest::keyClick(&line, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(&line, Qt::Key_C, Qt::ControlModifier);
-  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("1,234.5"));
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("1234.5"));
+}
+
+void ResultLineTest::CopyWithoutASelectionTakesAll() {
+  ResultLine line(nullptr);
+  line.show();
+  QVERIFY(QTest::qWaitForWindowActive(&line));
+  line.ShowText(QStringLiteral("-1,234,567"));
+  line.setFocus();
+  QTest::keyClick(&line, Qt::Key_C, Qt::ControlModifier);
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("-1234567"));
+}
+
+void ResultLineTest::ASentenceIsCopiedAsItStands() {
+  ResultLine line(nullptr);
+  line.show();
+  line.ShowText(QStringLiteral("a,b is not supported."));
+  line.selectAll();
+  line.copy();
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a,b is not supported."));
+}
+
+void ResultLineTest::ADoubleClickSelectsAll() {
+  ResultLine line(nullptr);
+  line.resize(232, 36);
+  line.show();
+  QVERIFY(QTest::qWaitForWindowActive(&line));
+  for (const char* text : {"-1,234.5", "1.50000e+013", "Expression error."}) {
+    line.ShowText(QString::fromLatin1(text));
+    for (int x = line.viewport()->width() / 2; x < line.viewport()->width(); x += 10) {
+      QTest::mouseClick(line.viewport(), Qt::LeftButton, {}, QPoint(2, 2));
+      QTest::mouseDClick(line.viewport(), Qt::LeftButton, {}, QPoint(x, 15));
+      QCOMPARE(line.textCursor().selectedText(), QString::fromLatin1(text));
+    }
+  }
 }
 
 void ResultLineTest::CannotBeEdited() {
