@@ -46,15 +46,23 @@ void Calculator::Save() const {
   Write(store, settings::kBaseType, static_cast<int>(baseType));
   Write(store, settings::kDisplayType, static_cast<int>(displayType));
   Write(store, settings::kPrecision, precision);
-  Write(store, settings::kClassPos, converterPositions.category);
-  Write(store, settings::kInputTypePos, converterPositions.input);
-  Write(store, settings::kOutputTypePos, converterPositions.output);
+  WritePositions();
   history.Save(store);
 }
 
+void Calculator::WritePositions() const {
+  Write(store, settings::kClassPos, converterPositions.category);
+  Write(store, settings::kInputTypePos, converterPositions.input);
+  Write(store, settings::kOutputTypePos, converterPositions.output);
+}
+
 void Calculator::Evaluate(std::wstring_view editText) {
-  // Copied first: it may be an entry of the history or another text that changes here.
-  const std::wstring typed(editText);
+  // Copied: it may be an entry of the history or another text that changes here.
+  Compute(std::wstring(editText));
+  history.Save(store);
+}
+
+void Calculator::Compute(const std::wstring& typed) {
   lastError.clear();
   answer = 0.0;
   const std::wstring_view expression = Trimmed(typed);
@@ -90,11 +98,13 @@ void Calculator::Evaluate(std::wstring_view editText) {
 void Calculator::SetBase(BaseType target) {
   if (target == baseType) return;
   baseType = target;
+  Write(store, settings::kBaseType, static_cast<int>(baseType));
   ShowAnswer();
 }
 
 void Calculator::ToggleAngle() {
   angleType = angleType == AngleType::Degrees ? AngleType::Radians : AngleType::Degrees;
+  Write(store, settings::kAngleType, static_cast<int>(angleType));
 }
 
 void Calculator::ShowAnswer() {
@@ -114,12 +124,12 @@ void Calculator::SetDisplay(DisplayType type, int decimals) {
   if (lastError.empty()) ShowAnswer();
 }
 
-std::wstring Calculator::RecallValueText(double value) {
-  return FormatResult(value, DisplayType::FloatingPoint, precision, baseType, lastError);
+std::wstring Calculator::RecallValueText(double value) const {
+  return FormatResult(value, DisplayType::FloatingPoint, precision, baseType);
 }
 
-std::wstring Calculator::MemoryVariableText() {
-  return FormatResult(answer, DisplayType::FloatingPoint, precision, BaseType::Dec, lastError);
+std::wstring Calculator::MemoryVariableText() const {
+  return FormatResult(answer, DisplayType::FloatingPoint, precision, BaseType::Dec);
 }
 
 std::wstring Calculator::ConverterInput() const {
@@ -129,10 +139,11 @@ std::wstring Calculator::ConverterInput() const {
 void Calculator::TakeFromConverter(const ConverterPositions& positions, double memoryValue) {
   converterPositions = positions;
   memory = memoryValue;
+  WritePositions();
 }
 
-std::wstring Calculator::RecallHistory(int index) {
-  return RecallText(history.At(index), baseType, precision, lastError);
+std::wstring Calculator::RecallHistory(int index) const {
+  return RecallText(history.At(index), baseType, precision);
 }
 
 }  // namespace vexa

@@ -22,12 +22,12 @@ class Calculator {
   void Save() const;
 
   /// The "=" command on the edit line's text as it stands: shows the formatted answer on the result
-  /// line, or the sentence of what went wrong.
+  /// line, or the sentence of what went wrong. Stores the history.
   void Evaluate(std::wstring_view editText);
-  /// Makes `target` the current base and shows the answer in it. Nothing changes when it is
-  /// current already.
+  /// Makes `target` the current base, stores it and shows the answer in it. Nothing changes when it
+  /// is current already.
   void SetBase(BaseType target);
-  /// Switches between degrees and radians.
+  /// Switches between degrees and radians, and stores the new unit.
   void ToggleAngle();
   /// Changes and stores how numbers are shown, and shows the answer so. The sentence of a failure
   /// stays: there is no answer then.
@@ -37,16 +37,17 @@ class Calculator {
   void SubtractFromMemory() { memory -= answer; }
   void ClearMemory() { memory = 0.0; }
   /// The text that inserts `value`, of the register or of a memory variable, into the edit line: in
-  /// the current base, without thousands separators.
-  std::wstring RecallValueText(double value);
+  /// the current base, without thousands separators. What is recalled never counts as the outcome
+  /// of "=": one that cannot be shown leaves `lastError` alone.
+  std::wstring RecallValueText(double value) const;
   /// The answer as memory variables keep it: decimal, without thousands separators.
-  std::wstring MemoryVariableText();
+  std::wstring MemoryVariableText() const;
   /// The text that the unit converter's input field starts with.
   std::wstring ConverterInput() const;
-  /// Takes the converter's last positions and the memory register back.
+  /// Takes the converter's last positions, which are stored, and the memory register back.
   void TakeFromConverter(const ConverterPositions& positions, double memoryValue);
   /// What recalling history entry `index` (1 is the oldest) inserts into the edit line.
-  std::wstring RecallHistory(int index);
+  std::wstring RecallHistory(int index) const;
 
   /// The result line's text.
   std::wstring resultLine = L"0";
@@ -66,6 +67,9 @@ class Calculator {
   History history;
 
  private:
+  /// The steps of "=" up to what it remembers.
+  void Compute(const std::wstring& typed);
+  void WritePositions() const;
   void ShowAnswer();
   void ShowError(std::wstring_view sentence);
 

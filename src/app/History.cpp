@@ -87,13 +87,12 @@ std::wstring ResultEntry(BaseType base, std::wstring_view displayText) {
   return entry;
 }
 
-std::wstring RecallText(std::wstring_view entry, BaseType base, int precision,
-                        std::wstring& lastError) {
+std::wstring RecallText(std::wstring_view entry, BaseType base, int precision) {
   if (!entry.starts_with(L'=')) return std::wstring(entry);
   const wchar_t letter = entry.size() > kBaseLetter ? entry[kBaseLetter] : L'D';
   const ResultBase& tag = FindBase([&](const ResultBase& b) { return b.letter == letter; });
   const double value = tag.read(entry.substr(std::min(kResultText, entry.size())));
-  return FormatResult(value, DisplayType::FloatingPoint, precision, base, lastError);
+  return FormatResult(value, DisplayType::FloatingPoint, precision, base);
 }
 
 }  // namespace vexa

@@ -22,7 +22,6 @@ std::wstring ResultEntry(BaseType base, std::wstring_view displayText);
 
 /// What recalling `entry` inserts while `base` is current: an expression as it stands, a result's
 /// value converted to `base`, without thousands separators.
-std::wstring RecallText(std::wstring_view entry, BaseType base, int precision,
-                        std::wstring& lastError);
+std::wstring RecallText(std::wstring_view entry, BaseType base, int precision);
 
 }  // namespace vexa

@@ -93,6 +93,11 @@ std::wstring FormatResult(double value, DisplayType displayType, int precision, 
   return DecimalText(shown, displayType, std::clamp(precision, 0, kMostDecimals));
 }
 
+std::wstring FormatResult(double value, DisplayType displayType, int precision, BaseType base) {
+  std::wstring untold;
+  return FormatResult(value, displayType, precision, base, untold);
+}
+
 std::wstring ReducedFormatResult(double value, int precision, std::wstring& lastError) {
   return FormatResult(value, DisplayType::Currency, precision, BaseType::Dec, lastError);
 }

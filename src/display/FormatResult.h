@@ -17,6 +17,9 @@ namespace vexa {
 std::wstring FormatResult(double value, DisplayType displayType, int precision, BaseType base,
                           std::wstring& lastError);
 
+/// The same where an overflow is told by the text alone.
+std::wstring FormatResult(double value, DisplayType displayType, int precision, BaseType base);
+
 /// FormatResult in decimal, always grouped at thousands.
 std::wstring ReducedFormatResult(double value, int precision, std::wstring& lastError);
 

@@ -29,8 +29,10 @@ class TextHistory {
   bool IsEmpty() const { return entries.empty(); }
   /// Entry `index`, 1 (oldest) to Count().
   const std::wstring& At(int index) const { return entries[static_cast<std::size_t>(index - 1)]; }
-  /// Entry `index` as a menu shows it.
-  std::wstring Caption(int index) const { return Shortened(At(index), kind.caption); }
+  /// Entry `index` as a menu shows it; an empty one, which only a store can bring, has a name.
+  std::wstring Caption(int index) const {
+    return At(index).empty() ? L"(empty)" : Shortened(At(index), kind.caption);
+  }
 
   /// Reads the stored entries; a stored count outside 0 to the capacity is clamped.
   void Load(const SettingsStore& store);

@@ -379,6 +379,48 @@ TEST(Calculator, MemoryRegister) {
   EXPECT_EQ(calculator.memory, 0.0);
 }
 
+TEST(Calculator, WhatChangesIsStoredAtOnce) {
+  MemorySettingsStore store;
+  Calculator calculator(store);
+  calculator.ToggleAngle();
+  EXPECT_EQ(Read(store, settings::kAngleType), 2);
+  calculator.SetBase(BaseType::Oct);
+  EXPECT_EQ(Read(store, settings::kBaseType), 4);
+  calculator.Evaluate(L"7+1");
+  EXPECT_EQ(Read(store, settings::kCalHistoryCount), 2);
+  EXPECT_EQ(Read(store, settings::kCalHistory, 1), L"=[O]10");
+  EXPECT_EQ(Read(store, settings::kCalHistory, 2), L"7+1");
+  calculator.Evaluate(L"7+");
+  EXPECT_EQ(Read(store, settings::kCalHistory, 3), L"7+");
+  calculator.TakeFromConverter({3, 4, 5}, 0.0);
+  EXPECT_EQ(Read(store, settings::kClassPos), 3);
+  EXPECT_EQ(Read(store, settings::kInputTypePos), 4);
+  EXPECT_EQ(Read(store, settings::kOutputTypePos), 5);
+}
+
+TEST(Calculator, WhatIsRecalledIsNoOutcome) {
+  const std::wstring overflow = L"Out of range(overflow or underflow)";
+  MemorySettingsStore store;
+  Write(store, settings::kCalHistoryCount, 1);
+  Write(store, settings::kCalHistory, 1, L"=[H]" + std::wstring(1000, L'F'));
+  Calculator calculator(store);
+  calculator.Evaluate(L"1e308");
+  calculator.AddToMemory();
+  calculator.AddToMemory();
+  EXPECT_EQ(calculator.RecallValueText(calculator.memory), overflow);
+  EXPECT_EQ(calculator.lastError, L"");
+  EXPECT_EQ(calculator.RecallHistory(1), overflow);
+  EXPECT_EQ(calculator.lastError, L"");
+  calculator.answer = calculator.memory;
+  EXPECT_EQ(calculator.MemoryVariableText(), overflow);
+  EXPECT_EQ(calculator.lastError, L"");
+  // Nor does a recall that can be shown end a failure.
+  calculator.Evaluate(L"1+");
+  const std::wstring sentence = calculator.lastError;
+  calculator.RecallValueText(1.0);
+  EXPECT_EQ(calculator.lastError, sentence);
+}
+
 TEST(Calculator, HostileTexts) {
   MemorySettingsStore store;
   Calculator calculator(store);

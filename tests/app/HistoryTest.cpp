@@ -123,6 +123,18 @@ TEST(History, AShorterHistoryLeavesStaleEntriesBehind) {
   EXPECT_EQ(Entries(again), (Texts{L"x"}));
 }
 
+TEST(History, EmptyEntriesHaveACaption) {
+  MemorySettingsStore store;
+  Write(store, settings::kCalHistoryCount, 3);
+  Write(store, settings::kCalHistory, 2, L"1+2");
+  History history;
+  history.Load(store);
+  EXPECT_EQ(history.Caption(1), L"(empty)");
+  EXPECT_EQ(history.Caption(2), L"1+2");
+  EXPECT_EQ(history.Caption(3), L"(empty)");
+  EXPECT_EQ(history.At(3), L"");
+}
+
 TEST(ResultEntry, TagsOfTheBases) {
   const std::pair<int, std::wstring> cases[] = {{1, L"=[D]1,234.5"}, {2, L"=[H]1,234.5"},
                                                 {3, L"=[B]1,234.5"}, {4, L"=[O]1,234.5"},
@@ -171,17 +183,13 @@ TEST(RecallText, Table) {
       {L"=", kDec, L"0"},
   };
   for (const RecallCase& c : cases) {
-    std::wstring lastError;
-    EXPECT_EQ(RecallText(c.entry, c.base, 5, lastError), c.text);
-    EXPECT_EQ(lastError, L"");
+    EXPECT_EQ(RecallText(c.entry, c.base, 5), c.text);
   }
 }
 
 TEST(RecallText, TooLargeResultsOverflow) {
-  std::wstring lastError;
-  const std::wstring overflow = L"Out of range(overflow or underflow)";
-  EXPECT_EQ(RecallText(L"=[H]" + std::wstring(1000, L'F'), BaseType::Dec, 5, lastError), overflow);
-  EXPECT_EQ(lastError, overflow);
+  EXPECT_EQ(RecallText(L"=[H]" + std::wstring(1000, L'F'), BaseType::Dec, 5),
+            L"Out of range(overflow or underflow)");
 }
 
 }  // namespace
