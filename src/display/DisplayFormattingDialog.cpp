@@ -9,7 +9,9 @@
 
 #include "display/WideText.h"
 #include "toolkit/KeyboardOnFocus.h"
+#include "toolkit/LimitLength.h"
 #include "toolkit/MessageBox.h"
+#include "toolkit/NumberBox.h"
 #include "toolkit/Theme.h"
 #include "toolkit/TouchSize.h"
 
@@ -19,25 +21,16 @@ DisplayFormattingDialog::DisplayFormattingDialog(DisplayType type, int decimals,
     : Dialog(QStringLiteral("DisplayFormatting"), parent),
       displayType(type),
       decimalPlaces(decimals),
-      choices(new QButtonGroup(this)),
-      decimalsBox(new QLineEdit(QString::number(decimals), this)) {
+      choices(new QButtonGroup(this)) {
   QLabel* const heading = AddLabel(L"Display Formatting");
   QFont bold;
   bold.setBold(true);
   heading->setFont(bold);
   theme::ShowOnLightBlue(heading);
-  auto* const rows = new QVBoxLayout;
-  rows->setSpacing(0);
-  Content()->addLayout(rows);
-  for (const DisplayChoice& choice : kDisplayChoices) {
-    auto* const button = new QRadioButton(FromWide(choice.caption), this);
-    button->setObjectName(FromWide(choice.caption));
-    button->setMinimumHeight(kTouchHeight);
-    button->setChecked(choice.type == type);
-    choices->addButton(button, static_cast<int>(choice.type));
-    rows->addWidget(button);
-  }
+  BuildChoices();
+  decimalsBox = new QLineEdit(QString::number(decimals), this);
   decimalsBox->setMinimumHeight(kTouchHeight);
+  LimitLength(decimalsBox, kNumberLength);
   new KeyboardOnFocus(decimalsBox);
   theme::KeepReadable(decimalsBox);
   theme::ShowOnLightBlue(AddFieldRow(L"Number of decimal places", decimalsBox));
@@ -46,6 +39,23 @@ DisplayFormattingDialog::DisplayFormattingDialog(DisplayType type, int decimals,
   AddButton(row, L"Cancel", this, &DisplayFormattingDialog::reject);
   connect(choices, &QButtonGroup::idToggled, this, &DisplayFormattingDialog::EnableDecimals);
   EnableDecimals();
+}
+
+void DisplayFormattingDialog::BuildChoices() {
+  auto* const rows = new QVBoxLayout;
+  rows->setSpacing(0);
+  Content()->addLayout(rows);
+  for (const DisplayChoice& choice : kDisplayChoices) {
+    auto* const button = new QRadioButton(FromWide(choice.caption), this);
+    button->setObjectName(FromWide(choice.caption));
+    button->setMinimumHeight(kTouchHeight);
+    button->setChecked(choice.type == displayType);
+    choices->addButton(button, static_cast<int>(choice.type));
+    rows->addWidget(button);
+  }
+  // The choice in force is where keys begin; without one, the first.
+  QAbstractButton* const chosen = choices->checkedButton();
+  (chosen ? chosen : choices->buttons().first())->setFocus();
 }
 
 DisplayType DisplayFormattingDialog::ChosenType() const {

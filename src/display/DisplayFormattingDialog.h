@@ -25,11 +25,12 @@ class DisplayFormattingDialog : public Dialog {
   void accept() override;
 
  private:
+  void BuildChoices();
   void EnableDecimals();
   DisplayType ChosenType() const;
 
   QButtonGroup* choices;
-  QLineEdit* decimalsBox;
+  QLineEdit* decimalsBox = nullptr;
 };
 
 }  // namespace vexa

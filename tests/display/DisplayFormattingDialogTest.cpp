@@ -38,6 +38,8 @@ class DisplayFormattingDialogTest : public QObject {
   void TheOrderOnScreen();
   void OpensOnTheValues_data();
   void OpensOnTheValues();
+  void TabsAsRead_data();
+  void TabsAsRead();
   void ChoosingEnablesTheBox_data();
   void ChoosingEnablesTheBox();
   void AForeignTypeChoosesNone();
@@ -119,6 +121,30 @@ void DisplayFormattingDialogTest::OpensOnTheValues() {
   }
   QCOMPARE(Box()->text(), QString::number(row));
   QCOMPARE(Box()->isEnabled(), kChoices[row].hasDecimals);
+  QVERIFY(Radio(kChoices[row].caption)->hasFocus());
+}
+
+void DisplayFormattingDialogTest::TabsAsRead_data() {
+  OpensOnTheValues_data();
+}
+
+void DisplayFormattingDialogTest::TabsAsRead() {
+  QFETCH(int, row);
+  const Choice& choice = kChoices[row];
+  Open(choice.code, 5);
+  QStringList order{QString::fromLatin1(choice.caption)};
+  if (choice.hasDecimals) order += QStringLiteral("Number of decimal places");
+  order += {QStringLiteral("OK"), QStringLiteral("Cancel")};
+  for (int turn = 0; turn < 2; ++turn) {
+    for (const QString& name : order) {
+      QCOMPARE(QApplication::focusWidget()->objectName(), name);
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+  }
+  for (qsizetype n = order.size() - 1; n >= 0; --n) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget()->objectName(), order[n]);
+  }
 }
 
 void DisplayFormattingDialogTest::ChoosingEnablesTheBox_data() {
@@ -148,6 +174,7 @@ void DisplayFormattingDialogTest::AForeignTypeChoosesNone() {
   for (const int type : {-1, 5, 2147483647}) {
     Open(type, 3);
     for (const Choice& choice : kChoices) QVERIFY(!Radio(choice.caption)->isChecked());
+    QVERIFY(Radio("Floating Point")->hasFocus());
     Tap(dialog, "OK");
     QCOMPARE(dialog->result(), int{QDialog::Accepted});
     QCOMPARE(static_cast<int>(dialog->displayType), type);
