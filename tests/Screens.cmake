@@ -7,6 +7,9 @@ vexa_rule_test(toolkit_rules_test
 vexa_rule_test(app_window_rules_test app/CalculatorKeypadTest.cpp app/WindowPlaceTest.cpp)
 
 vexa_screen_test(edit_line_test toolkit/EditLineTest.cpp)
+vexa_screen_test(edit_line_composing_test toolkit/EditLineComposingTest.cpp)
+vexa_screen_test(scroll_areas_test toolkit/ScrollAreasTest.cpp)
+vexa_screen_test(limit_length_test toolkit/LimitLengthTest.cpp)
 vexa_screen_test(boxes_test toolkit/BoxesTest.cpp)
 vexa_screen_test(file_dialogs_test toolkit/FileDialogsTest.cpp)
 vexa_screen_test(keypad_test toolkit/KeypadTest.cpp)

@@ -57,7 +57,7 @@ CalculatorScreen::CalculatorScreen(SettingsStore& settingsStore, QWidget* parent
   PlaceKeypad(kKeypadShare);
 
   BuildFileMenu();
-  BuildEditMenu(resultLine);
+  BuildEditMenu();
   SetDefaultButton(Keys()->Button(L"="));
   Refresh();
 }

@@ -15,7 +15,9 @@
 #include "toolkit/KeyButton.h"
 #include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/Keypad.h"
+#include "toolkit/LimitLength.h"
 #include "toolkit/MessageBox.h"
+#include "toolkit/NumberBox.h"
 #include "toolkit/ResultLine.h"
 #include "toolkit/Theme.h"
 #include "toolkit/TouchComboBox.h"
@@ -149,6 +151,7 @@ void UnitConverterDialog::BuildInput() {
   input->setFont(large);
   input->setAlignment(Qt::AlignRight);
   input->setMinimumHeight(kTouchHeight);
+  LimitLength(input, kNumberLength);
   new KeyboardOnFocus(input);
   theme::ShowAsNotice(notice);
   notice->setAlignment(Qt::AlignRight);

@@ -8,7 +8,9 @@
 #include "display/WideText.h"
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/KeyboardOnFocus.h"
+#include "toolkit/LimitLength.h"
 #include "toolkit/MessageBox.h"
+#include "toolkit/NumberBox.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
@@ -51,6 +53,7 @@ void UserConversionDialog::BuildFields() {
     box->setPlaceholderText(hint);
   }
   AddFieldRow(L"Rate", rate);
+  LimitLength(rate, kNumberLength);
   for (QLineEdit* const box : {firstName, secondName, rate}) {
     box->setMinimumHeight(kTouchHeight);
     new KeyboardOnFocus(box);

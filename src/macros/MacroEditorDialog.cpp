@@ -38,7 +38,7 @@ void MacroEditorDialog::BuildFields() {
   type = new TouchComboBox(this);
   for (const MacroType& macroType : kMacroTypes) type->addItem(FromWide(macroType.storedText));
   AddFieldRow(L"Argument Type", type);
-  formula = new EditLine(this, MacroEditor::kMaxFormulaLength);
+  formula = new EditLine(this, {MacroEditor::kMaxFormulaLength, MacroEditor::kFormulaTooLong});
   formula->SetLargestText(kFormulaText);
   formula->setMinimumHeight(kLeastFormulaHeight);
   formula->setMaximumHeight(kFormulaHeight);

@@ -20,7 +20,7 @@ QDialog* NewMacroPicker(SettingsStore& store, EditLine* line, QWidget* screen,
   auto* const dialog = new MacroListDialog(store, screen);
   QObject::connect(dialog, &MacroListDialog::Picked, line, [line, macros](int index) {
     const MacroCall call = CallOf(macros.At(index));
-    line->ApplyChange(WrapSelection(line->State(), call.prefix, call.suffix));
+    line->ApplyOrTell(WrapSelection(line->State(), call.prefix, call.suffix));
   });
   return dialog;
 }

@@ -23,7 +23,9 @@
 #include "plotter/PlotterOptionsDialog.h"
 #include "toolkit/FileDialogs.h"
 #include "toolkit/KeyboardOnFocus.h"
+#include "toolkit/LimitLength.h"
 #include "toolkit/MessageBox.h"
+#include "toolkit/NumberBox.h"
 #include "toolkit/TouchComboBox.h"
 #include "toolkit/TouchSize.h"
 
@@ -113,6 +115,7 @@ void GraphViewDialog::BuildReading() {
   xBox->setObjectName(QStringLiteral("X ="));
   xBox->setAccessibleName(QStringLiteral("X ="));
   xBox->setMinimumHeight(kTouchHeight);
+  LimitLength(xBox, kNumberLength);
   new KeyboardOnFocus(xBox);
   row->addWidget(label);
   row->addWidget(xBox, 1);

@@ -9,6 +9,8 @@
 
 #include "display/WideText.h"
 #include "toolkit/KeyboardOnFocus.h"
+#include "toolkit/LimitLength.h"
+#include "toolkit/NumberBox.h"
 #include "toolkit/TouchHeight.h"
 #include "toolkit/TouchSize.h"
 
@@ -54,6 +56,7 @@ void RangeForm::BuildBoxes(QGridLayout* grid, int leastHeight) {
     const QString caption = FromWide(kRangeBoxCaptions[i]);
     auto* const label = new QLabel(caption, this);
     boxes[i] = new QLineEdit(this);
+    LimitLength(boxes[i], kNumberLength);
     boxes[i]->setObjectName(caption);
     boxes[i]->setAccessibleName(caption);
     boxes[i]->setMinimumWidth(0);

@@ -10,6 +10,8 @@
 #include "stats/Statistics.h"
 #include "toolkit/KeyButton.h"
 #include "toolkit/KeyboardOnFocus.h"
+#include "toolkit/LimitLength.h"
+#include "toolkit/NumberBox.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
@@ -44,6 +46,7 @@ DataEntryForm::DataEntryForm(std::span<const ListColumn> columns, QWidget* paren
 
 void DataEntryForm::AddEdit(const ListColumn& column, bool isCount) {
   auto* const edit = new EntryEdit(this);
+  LimitLength(edit, kNumberLength);
   const QString caption = FromWide(column.caption);
   auto* const label = new QLabel(caption, this);
   label->setBuddy(edit);

@@ -31,6 +31,12 @@ TextChange DeleteAll(const EditText& edit) {
   return {0, edit.text.size(), L"", 0};
 }
 
+bool HasRoom(const EditText& edit, const TextChange& change, std::size_t longest) {
+  const std::size_t removed = change.end - change.start;
+  const std::size_t added = change.replacement.size();
+  return added <= removed || edit.text.size() - removed + added <= longest;
+}
+
 EditText Apply(const EditText& edit, const TextChange& change) {
   std::wstring text = edit.text;
   text.replace(change.start, change.end - change.start, change.replacement);

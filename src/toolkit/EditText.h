@@ -35,6 +35,9 @@ TextChange DeleteBefore(const EditText& edit);
 TextChange DeleteAfter(const EditText& edit);
 /// "CLR": deletes the whole text.
 TextChange DeleteAll(const EditText& edit);
+/// Whether `edit` has room for `change` in a field of `longest` characters. A change that does not
+/// lengthen the text always has.
+bool HasRoom(const EditText& edit, const TextChange& change, std::size_t longest);
 /// `edit` after `change`.
 EditText Apply(const EditText& edit, const TextChange& change);
 

@@ -1,6 +1,8 @@
 #include "toolkit/ExpressionScreen.h"
 
+#include <QCoreApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QVBoxLayout>
 #include <utility>
@@ -8,6 +10,7 @@
 
 #include "display/TextHistory.h"
 #include "toolkit/EditLine.h"
+#include "toolkit/KeyButton.h"
 #include "toolkit/Keypad.h"
 #include "toolkit/PopupMenu.h"
 #include "toolkit/ResultLine.h"
@@ -33,6 +36,7 @@ void ExpressionScreen::PlaceKeypad(int stretch) {
 }
 
 void ExpressionScreen::PressKey(int index) {
+  line->CommitComposition();
   const Key& key = keys[static_cast<std::size_t>(index)];
   if (!key.inserts.IsEmpty()) {
     line->ApplyChange(TypeKey(line->State(), key.inserts));
@@ -68,10 +72,8 @@ void ExpressionScreen::RefreshKeypad() {
                   [&](const Key& key) { return IsKeyEnabled(key, state); });
 }
 
-void ExpressionScreen::BuildEditMenu(ResultLine* result) {
-  AddEditMenu([edited = line, result](EditCommand command) {
-    // The result has its own selection; the focus tells which one is meant.
-    if (command == EditCommand::Copy && result && result->hasFocus()) return result->copy();
+void ExpressionScreen::BuildEditMenu() {
+  AddEditMenu([edited = line](EditCommand command) {
     switch (command) {
       case EditCommand::Cut:
         edited->cut();
@@ -104,7 +106,16 @@ void ExpressionScreen::OpenDialog(QDialog* dialog) {
 }
 
 void ExpressionScreen::InsertIntoLine(const std::wstring& text) {
-  line->ApplyChange(InsertText(line->State(), text));
+  line->ApplyOrTell(InsertText(line->State(), text));
+}
+
+void ExpressionScreen::keyPressEvent(QKeyEvent* event) {
+  const QWidget* const focused = focusWidget();
+  const bool isForReading =
+      qobject_cast<const KeyButton*>(focused) || qobject_cast<const ResultLine*>(focused);
+  if (!isForReading || !EditLine::IsTyping(*event)) return ModeScreen::keyPressEvent(event);
+  line->setFocus();
+  QCoreApplication::sendEvent(line, event);
 }
 
 }  // namespace vexa

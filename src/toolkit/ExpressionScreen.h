@@ -14,7 +14,6 @@ namespace vexa {
 
 class EditLine;
 class Keypad;
-class ResultLine;
 class TextHistory;
 
 /// What the screens with an edit line and a keypad share: keys that insert texts, the editing keys,
@@ -34,16 +33,18 @@ class ExpressionScreen : public ModeScreen {
   /// Makes the keypad, below the controls that have been placed and after those that have been
   /// made: the Tab key goes this way, too.
   void PlaceKeypad(int stretch);
-  /// Adds the "Edit" menu, whose commands work on the line. While `result` has the focus, Copy
-  /// takes what is selected there.
-  void BuildEditMenu(ResultLine* result = nullptr);
+  /// Adds the "Edit" menu, whose commands work on the line.
+  void BuildEditMenu();
   /// Shows and enables the keys as State() says.
   void RefreshKeypad();
   /// Offers the entries of `history`, the newest first; `chosen` gets the number of the chosen one.
   void ShowHistory(const TextHistory& history, std::function<void(int)> chosen);
   /// Gives the line the focus again when `dialog` is closed, and opens it.
   void OpenDialog(QDialog* dialog);
+  /// Inserts a text that was chosen; without room for it the user is told so.
   void InsertIntoLine(const std::wstring& text);
+  /// What is typed where it has no meaning goes to the line.
+  void keyPressEvent(QKeyEvent* event) override;
 
   EditLine* Line() const { return line; }
   Keypad* Keys() const { return keypad; }

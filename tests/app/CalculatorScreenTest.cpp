@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -121,7 +122,14 @@ class CalculatorScreenTest : public QObject {
   void PbShowsCaptionsLiterally();
   void PbConvertsResults();
   void CutCopyPaste();
+  void TheMenuCopiesFromTheLine();
   void TheResultCanBeCopied();
+  void TypingGoesToTheLine_data();
+  void TypingGoesToTheLine();
+  void KeysThatAreNotTypedStay();
+  void KeysFinishAComposition();
+  void TheAngleIsStoredAtOnce();
+  void EveryEntryOfTheHistoryIsAnItem();
   void TheStoredBaseIsShown();
   void SettingsAreWrittenAtTheEnd();
   void AHostileStoreIsHarmless();
@@ -472,14 +480,126 @@ void CalculatorScreenTest::CutCopyPaste() {
   QCOMPARE(edit->toPlainText(), QStringLiteral("12+5 6"));
 }
 
-void CalculatorScreenTest::TheResultCanBeCopied() {
+void CalculatorScreenTest::TheMenuCopiesFromTheLine() {
   QTest::keyClicks(edit, QStringLiteral("1000*2"));
   Press(QStringLiteral("="));
   auto* result = screen->findChild<ResultLine*>();
   result->setFocus();
   result->selectAll();
   MenuAction(QStringLiteral("Edit"), QStringLiteral("Copy"))->trigger();
-  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("2,000"));
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("1000*2"));
+  QVERIFY(edit->hasFocus());
+}
+
+void CalculatorScreenTest::TheResultCanBeCopied() {
+  QTest::keyClicks(edit, QStringLiteral("1000*2"));
+  Press(QStringLiteral("="));
+  auto* result = screen->findChild<ResultLine*>();
+  // With a click, with a double click, and with Tab alone.
+  QTest::mouseClick(result->viewport(), Qt::LeftButton);
+  QTest::keyClick(result, Qt::Key_C, Qt::ControlModifier);
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("2000"));
+  QGuiApplication::clipboard()->clear();
+  QTest::mouseDClick(result->viewport(), Qt::LeftButton);
+  QTest::keyClick(result, Qt::Key_C, Qt::ControlModifier);
+  QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("2000"));
+  // What was copied goes on in the line.
+  edit->setFocus();
+  QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+  QTest::keyClicks(edit, QStringLiteral("+1"));
+  Press(QStringLiteral("="));
+  QCOMPARE(Result(), QStringLiteral("2,001"));
+}
+
+void CalculatorScreenTest::TypingGoesToTheLine_data() {
+  QTest::addColumn<QString>("focused");
+  for (const char* name : {"Result", "7", "Shift", "=", "SIN", "MEM"}) {
+    QTest::newRow(name) << QString::fromLatin1(name);
+  }
+}
+
+void CalculatorScreenTest::TypingGoesToTheLine() {
+  QFETCH(QString, focused);
+  QTest::keyClicks(edit, QStringLiteral("12"));
+  auto* const control = screen->findChild<QWidget*>(focused);
+  const auto type = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    control->setFocus();
+    QVERIFY(!edit->hasFocus());
+    QTest::keyClick(control, key, modifiers);
+    QVERIFY(edit->hasFocus());
+  };
+  type(Qt::Key_3);
+  QCOMPARE(Marked(), QStringLiteral("123|"));
+  control->setFocus();
+  QTest::keyClick(control, '(');
+  QCOMPARE(Marked(), QStringLiteral("123(|"));
+  type(Qt::Key_Backspace);
+  QCOMPARE(Marked(), QStringLiteral("123|"));
+  type(Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(Marked(), QStringLiteral("123(|"));
+  QGuiApplication::clipboard()->setText(QStringLiteral("45"));
+  type(Qt::Key_V, Qt::ControlModifier);
+  QCOMPARE(Marked(), QStringLiteral("123(45|"));
+  edit->moveCursor(QTextCursor::Start);
+  type(Qt::Key_Delete);
+  QCOMPARE(Marked(), QStringLiteral("|23(45"));
+}
+
+void CalculatorScreenTest::KeysThatAreNotTypedStay() {
+  Press(QStringLiteral("7"));
+  auto* const key = Button(QStringLiteral("8"));
+  for (const Qt::Key code : {Qt::Key_Shift, Qt::Key_F5, Qt::Key_Escape, Qt::Key_PageUp}) {
+    key->setFocus();
+    QTest::keyClick(key, code);
+    QVERIFY(key->hasFocus());
+  }
+  QTest::keyClick(key, Qt::Key_X, Qt::AltModifier);
+  QTest::keyClick(key, Qt::Key_J, Qt::ControlModifier);
+  QCOMPARE(edit->toPlainText(), QStringLiteral("7"));
+}
+
+void CalculatorScreenTest::KeysFinishAComposition() {
+  const auto compose = [this](const char* text) {
+    QInputMethodEvent event(QString::fromLatin1(text), {});
+    QGuiApplication::sendEvent(edit, &event);
+  };
+  SetText(QStringLiteral("12"), 1, 1);
+  compose("34");
+  Press(QStringLiteral("+"));
+  QCOMPARE(Marked(), QStringLiteral("134+|2"));
+  compose("5");
+  Press(QStringLiteral("="));
+  QCOMPARE(edit->toPlainText(), QStringLiteral("134+52"));
+  QCOMPARE(Result(), QStringLiteral("186"));
+}
+
+void CalculatorScreenTest::TheAngleIsStoredAtOnce() {
+  Press(QStringLiteral("DEG"));
+  QCOMPARE(store->ReadSettingInt(L"Config", L"Angle Type", 0), 2);
+  Press(QStringLiteral("RAD"));
+  QCOMPARE(store->ReadSettingInt(L"Config", L"Angle Type", 0), 1);
+}
+
+void CalculatorScreenTest::EveryEntryOfTheHistoryIsAnItem() {
+  screen.reset();
+  store->WriteSettingInt(L"History", L"CalHistoryCount", 3);
+  store->WriteSettingString(L"History", L"CalHistory2", L"1+2");
+  Open();
+  edit->setPlainText(QStringLiteral("7"));
+  QMenu* menu = OpenHistory();
+  QVERIFY(menu);
+  QStringList captions;
+  for (const QAction* action : menu->actions()) {
+    QVERIFY(!action->isSeparator() && action->isEnabled());
+    captions += action->text();
+  }
+  const QString empty = QStringLiteral("(empty)");
+  QCOMPARE(captions, (QStringList{empty, QStringLiteral("1+2"), empty}));
+  // It is what it is: recalled over a selection it leaves nothing.
+  edit->selectAll();
+  menu->setActiveAction(menu->actions().last());
+  QTest::keyClick(menu, Qt::Key_Return);
+  QCOMPARE(Marked(), QStringLiteral("|"));
 }
 
 void CalculatorScreenTest::TheStoredBaseIsShown() {

@@ -129,5 +129,32 @@ TEST(EditText, LawsOfApplying) {
   }
 }
 
+TEST(EditText, RoomIsForTheWholeChange) {
+  const struct {
+    std::wstring before;
+    std::wstring text;
+    bool hasRoom;
+  } cases[] = {
+      {L"12345678|", L"00", true},
+      {L"12345678|", L"sin", false},
+      {L"1234567890|", L"1", false},
+      {L"[1234567890]", L"12", true},
+      {L"123[45]67890", L"12", true},
+      {L"123[45]67890", L"123", false},
+      {L"|", L"12345678901", false},
+      // A text that is too long already can become shorter.
+      {L"[12]345678901234", L"1", true},
+      {L"[12]345678901234", L"12", true},
+      {L"[12]345678901234", L"123", false},
+  };
+  for (const auto& c : cases) {
+    const EditText edit = Line(c.before);
+    EXPECT_EQ(HasRoom(edit, InsertText(edit, c.text), 10), c.hasRoom);
+  }
+  const EditText edit = Line(L"12[345]6780");
+  EXPECT_TRUE(HasRoom(edit, WrapSelection(edit, L"(", L""), 10));
+  EXPECT_FALSE(HasRoom(edit, WrapSelection(edit, L"(", L")"), 10));
+}
+
 }  // namespace
 }  // namespace vexa
