@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "engine/FormulaPlanner.h"
+#include "engine/VectorState.h"
 
 namespace vexa {
 namespace {
@@ -43,6 +44,7 @@ FormulaProgram::FormulaProgram(std::span<const Token> records)
 
 void FormulaProgram::Evaluate(std::span<const double> xs, AngleType angle,
                               FormulaValues& outcome) const {
+  ForgetUpperHalves();
   outcome.values.resize(xs.size());
   outcome.errors.assign(xs.size(), nullptr);
   const std::size_t lanes = std::min(xs.size(), kLanes);
