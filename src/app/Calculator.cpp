@@ -1,24 +1,10 @@
 #include "app/Calculator.h"
 
-#include <algorithm>
-
 #include "display/FormatResult.h"
 #include "display/SettingsLayout.h"
-#include "engine/CalcEngine.h"
-#include "macros/ExpandMacros.h"
 
 namespace vexa {
 namespace {
-
-// An empty line's result line and error text differ; meant.
-constexpr std::wstring_view kNoExpression = L"There is no expression.";
-constexpr std::wstring_view kNullExpression = L"Expression is null.";
-
-std::wstring_view Trimmed(std::wstring_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
-  text.remove_suffix(text.size() - (text.find_last_not_of(L' ') + 1));
-  return text;
-}
 
 /// A stored base outside the four is decimal.
 BaseType ValidBase(int stored) {
@@ -63,31 +49,15 @@ void Calculator::Evaluate(std::wstring_view editText) {
 }
 
 void Calculator::Compute(const std::wstring& typed) {
-  lastError.clear();
-  answer = 0.0;
-  const std::wstring_view expression = Trimmed(typed);
-  if (expression.empty()) {
-    lastError = kNoExpression;
-    resultLine = kNullExpression;
+  const LineOutcome outcome = evaluator.Evaluate(typed, macros, angleType, baseType);
+  lastError = evaluator.error;
+  answer = evaluator.value;
+  if (outcome != LineOutcome::Value) {
+    resultLine = outcome == LineOutcome::Empty ? LineEvaluator::kNullExpression : lastError;
+    // What the engine refused can be recalled and mended.
+    if (outcome == LineOutcome::EngineError) history.AddHistory(typed);
     return;
   }
-  const MacroExpansion expansion = ExpandMacros(expression, macros, angleType, baseType);
-  if (!expansion.error.empty()) return ShowError(expansion.error);
-
-  double value = expansion.lastResult;
-  // A single macro call keeps the full precision of the macro's own evaluation.
-  if (expansion.expression != expansion.lastMacroText) {
-    CalcEngine engine;
-    engine.angleMode = angleType;
-    engine.baseMode = baseType;
-    engine.EvaluateExpression(expansion.expression);
-    if (!engine.errorText.empty()) {
-      history.AddHistory(typed);
-      return ShowError(engine.errorText);
-    }
-    value = engine.result;
-  }
-  answer = value;
   ShowAnswer();
   if (history.IsEmpty() || history.At(history.Count()) != typed) {
     history.AddHistory(ResultEntry(baseType, resultLine));
@@ -109,11 +79,6 @@ void Calculator::ToggleAngle() {
 
 void Calculator::ShowAnswer() {
   resultLine = FormatResult(answer, displayType, precision, baseType, lastError);
-}
-
-void Calculator::ShowError(std::wstring_view sentence) {
-  lastError = sentence;
-  resultLine = sentence;
 }
 
 void Calculator::SetDisplay(DisplayType type, int decimals) {

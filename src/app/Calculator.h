@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "app/History.h"
+#include "app/LineEvaluator.h"
 #include "converter/UnitConverter.h"
 #include "display/DisplayType.h"
 #include "display/SettingsStore.h"
@@ -71,9 +72,9 @@ class Calculator {
   void Compute(const std::wstring& typed);
   void WritePositions() const;
   void ShowAnswer();
-  void ShowError(std::wstring_view sentence);
 
   SettingsStore& store;
+  LineEvaluator evaluator;
 };
 
 }  // namespace vexa

@@ -128,7 +128,12 @@ constexpr std::array<RuleTable, 3> kTables{MakeTable(kDecimalRules), MakeTable(k
 
 }  // namespace
 
-const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> records) {
+const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> records,
+                                   std::optional<std::size_t>* place) {
+  const auto atFault = [&](std::size_t index) {
+    if (place) *place = index;
+    return &kExpressionError;
+  };
   const RuleTable& table = kTables[static_cast<std::size_t>(rules)];
   int depth = 0;
   for (const Token& token : records) depth += (token.op == '(') - (token.op == ')');
@@ -136,14 +141,14 @@ const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> rec
   // What the record before allows behind itself, and what it is.
   SymbolSet expected = kAny;
   std::uint8_t previous = IndexOf(kStart);
-  for (const Token& token : records) {
-    const std::uint8_t current = IndexOf(token);
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    const std::uint8_t current = IndexOf(records[i]);
     const Neighbours& allowed = table[current];
-    if (!(allowed.previous & Bit(previous)) || !(expected & Bit(current))) return &kExpressionError;
+    if (!(allowed.previous & Bit(previous)) || !(expected & Bit(current))) return atFault(i);
     expected = allowed.next;
     previous = current;
   }
-  return expected & Bit(IndexOf(kEnd)) ? nullptr : &kExpressionError;
+  return expected & Bit(IndexOf(kEnd)) ? nullptr : atFault(records.size() - 1);
 }
 
 void CheckSyntax(SyntaxRules rules, TokenList& list) {

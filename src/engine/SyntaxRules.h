@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 
 #include "engine/TokenList.h"
@@ -14,8 +15,10 @@ enum class SyntaxRules {
 };
 
 /// The first violation of `rules` in `records`: parentheses that do not match in number, or a
-/// record whose neighbours are not allowed; null: there is none.
-const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> records);
+/// record whose neighbours are not allowed; null: there is none. Of a record, its index is stored
+/// in `place`, if given.
+const EngineError* FindSyntaxError(SyntaxRules rules, std::span<const Token> records,
+                                   std::optional<std::size_t>* place = nullptr);
 
 /// Reports the first violation of `rules` in the list's records.
 void CheckSyntax(SyntaxRules rules, TokenList& list);

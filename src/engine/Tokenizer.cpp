@@ -95,18 +95,23 @@ struct TokenReader {
 
 }  // namespace
 
-void Tokenize(std::wstring_view text, const Dialect& dialect, TokenList& list) {
+std::size_t Tokenize(std::wstring_view text, const Dialect& dialect, TokenList& list,
+                     std::vector<std::size_t>* places) {
   TokenReader reader{dialect, list};
-  while (!text.empty()) {
+  std::size_t place = 0;
+  while (place < text.size()) {
     // Tested before a blank too, so trailing blanks behind a full array are refused as well.
     if (list.tokenCount > kMaxTokens) {
       list.ReportError(ErrorCode::LengthLimit);
-      return;
+      return place;
     }
-    const std::size_t length = reader.Read(text);
-    if (list.errorFlag == 1) return;
-    text.remove_prefix(length);
+    const int recordsBefore = list.tokenCount;
+    const std::size_t length = reader.Read(text.substr(place));
+    if (list.errorFlag == 1) return place;
+    if (places && list.tokenCount > recordsBefore) places->push_back(place);
+    place += length;
   }
+  return place;
 }
 
 }  // namespace vexa

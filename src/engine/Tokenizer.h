@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "engine/Token.h"
 #include "engine/TokenList.h"
@@ -35,7 +36,9 @@ struct Dialect {
 };
 
 /// Cuts the lower-case `text` into records of `list`, stopping at the first error. The records made
-/// before an error stay.
-void Tokenize(std::wstring_view text, const Dialect& dialect, TokenList& list);
+/// before an error stay. Returns how far it came: to the end of `text`, or to what it refused. Where
+/// each record begins is appended to `places`, if given.
+std::size_t Tokenize(std::wstring_view text, const Dialect& dialect, TokenList& list,
+                     std::vector<std::size_t>* places = nullptr);
 
 }  // namespace vexa

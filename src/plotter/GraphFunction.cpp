@@ -4,6 +4,7 @@
 
 #include "display/ShortenedText.h"
 #include "engine/ExprParser.h"
+#include "macros/InlineMacros.h"
 
 namespace vexa {
 namespace {
@@ -38,6 +39,16 @@ std::wstring ParseGraphFunction(std::size_t position, std::wstring_view text,
   function.label = GraphLabel(position, text);
   function.program = FormulaProgram(parser.Records());
   return {};
+}
+
+std::wstring ParseGraphFunction(std::size_t position, std::wstring_view text,
+                                const MacroTable& macros, GraphFunction& function) {
+  std::wstring error;
+  const std::wstring formula = InlineMacros(text, macros, error);
+  if (!error.empty()) return error;
+  error = ParseGraphFunction(position, formula, function);
+  function.label = GraphLabel(position, text);
+  return error;
 }
 
 }  // namespace vexa

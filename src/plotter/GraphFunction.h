@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "macros/MacroTable.h"
 #include "plotter/GraphData.h"
 
 namespace vexa {
@@ -22,5 +23,8 @@ std::wstring FunctionRefusal(std::wstring_view text, std::wstring_view engineSen
 /// the text is no formula of X; empty: success.
 std::wstring ParseGraphFunction(std::size_t position, std::wstring_view text,
                                 GraphFunction& function);
+/// The same for a text in which macros may be called.
+std::wstring ParseGraphFunction(std::size_t position, std::wstring_view text,
+                                const MacroTable& macros, GraphFunction& function);
 
 }  // namespace vexa

@@ -4,7 +4,6 @@
 
 #include "display/SettingsLayout.h"
 #include "display/ShortenedText.h"
-#include "macros/InlineMacros.h"
 #include "plotter/GraphFunction.h"
 
 namespace vexa {
@@ -62,12 +61,7 @@ std::wstring PlotFunctions::Parse(std::size_t position, const std::wstring& text
                                   GraphFunction& function) const {
   MacroTable macros(store);
   macros.LoadMacroTable();
-  std::wstring error;
-  const std::wstring formula = InlineMacros(text, macros, error);
-  if (!error.empty()) return error;
-  error = ParseGraphFunction(position, formula, function);
-  function.label = GraphLabel(position, text);
-  return error;
+  return ParseGraphFunction(position, text, macros, function);
 }
 
 PlotterOutcome PlotFunctions::Add(std::wstring_view fieldText) {
