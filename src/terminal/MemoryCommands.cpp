@@ -1,5 +1,5 @@
-#include "app/Calculator.h"
 #include "macros/MemoryVariables.h"
+#include "terminal/CalculatorLines.h"
 #include "terminal/Commands.h"
 #include "terminal/Console.h"
 #include "terminal/Json.h"
@@ -47,19 +47,26 @@ int List(const Given& given, Console& console) {
 int Get(const Given& given, Console& console) {
   const auto slot = SlotOf(given);
   if (!slot) return console.RefuseUse(kNoSlot);
-  Calculator calculator(console.store);
-  const double value = MemoryVariables(console.store).Value(*slot);
-  console.out.Write(calculator.RecallValueText(value) + L"\n");
+  NumberModes modes = StoredModes(console.store);
+  modes.display = DisplayType::FloatingPoint;
+  console.out.Write(Formatted(MemoryVariables(console.store).Value(*slot), modes) + L"\n");
   return kDone;
 }
 
 int Set(const Given& given, Console& console) {
   const auto slot = SlotOf(given);
   if (!slot) return console.RefuseUse(kNoSlot);
-  Calculator calculator(console.store);
-  calculator.Evaluate(Wide(given.One("EXPR")));
-  if (!calculator.lastError.empty()) return console.Complain(calculator.resultLine);
-  MemoryVariables(console.store).Store(*slot, calculator.MemoryVariableText());
+  NumberModes modes = StoredModes(console.store);
+  const std::wstring expression = Wide(given.One("EXPR"));
+  const LineAnswer answer = CalculatorLines(console.store, modes).Evaluate(expression);
+  if (!answer.error.empty()) {
+    console.ComplainAbout("", answer.error, expression, answer.place);
+    return kFailed;
+  }
+  // A variable is decimal and without separators, however results are written.
+  modes.display = DisplayType::FloatingPoint;
+  modes.base = BaseType::Dec;
+  MemoryVariables(console.store).Store(*slot, Formatted(answer.value, modes));
   return kDone;
 }
 
