@@ -73,6 +73,10 @@ bool FileSettingsStore::Set(std::wstring_view section, std::wstring_view entry,
   return true;
 }
 
+std::filesystem::path FileSettingsStore::Folder() const {
+  return file ? file->Folder() : std::filesystem::path();
+}
+
 bool FileSettingsStore::Flush() {
   return !file || file->Save();
 }

@@ -29,6 +29,7 @@ class FileSettingsStore : public SettingsStore {
   bool WriteSettingInt(std::wstring_view section, std::wstring_view entry, int value) override;
   bool WriteSettingString(std::wstring_view section, std::wstring_view entry,
                           std::wstring_view text) override;
+  std::filesystem::path Folder() const override;
 
   /// Brings all changes into the file now. False: it could not be written, and they are kept for
   /// the next call.

@@ -21,6 +21,10 @@ class MemorySettingsStore : public SettingsStore {
   bool WriteSettingString(std::wstring_view section, std::wstring_view entry,
                           std::wstring_view text) override;
 
+  std::filesystem::path Folder() const override { return folder; }
+
+  /// The folder for files beside the settings.
+  std::filesystem::path folder;
   /// The key that was set last.
   std::wstring settingsKey;
 

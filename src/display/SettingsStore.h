@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,8 @@ class SettingsStore {
                                          std::wstring_view defaultValue) const = 0;
   /// True when the value was taken.
   virtual bool WriteSettingInt(std::wstring_view section, std::wstring_view entry, int value) = 0;
+  /// The folder for files of the user's own beside the settings; empty: none may be written.
+  virtual std::filesystem::path Folder() const { return {}; }
   /// True when the text was taken.
   virtual bool WriteSettingString(std::wstring_view section, std::wstring_view entry,
                                   std::wstring_view text) = 0;

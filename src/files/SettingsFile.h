@@ -26,6 +26,8 @@ class SettingsFile {
   /// Opens the file in `folder`, which is created; an empty name: nothing is ever written.
   explicit SettingsFile(std::filesystem::path folder);
 
+  /// Where the file is; empty: nothing is ever written.
+  const std::filesystem::path& Folder() const { return folder; }
   /// The value of a setting, or null when there is none. Valid until the next call.
   const SettingValue* Find(const SettingName& name);
   /// Changes a setting; one that has the value already, for all that was found or set here, is left

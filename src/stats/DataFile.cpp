@@ -1,28 +1,24 @@
 #include "stats/DataFile.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
+#include "stats/ByteKinds.h"
 #include "stats/CellValue.h"
 #include "stats/WrappedSum.h"
 
 namespace vexa {
 namespace {
 
-/// "E" separates texts; meant.
-constexpr std::string_view kNumberCharacters = "0123456789.e+-";
 /// Characters of a count that are read.
 constexpr std::size_t kCountCharacters = 30;
 
-constexpr auto kIsNumberCharacter = [] {
-  std::array<bool, 256> table{};
-  for (const char c : kNumberCharacters) table[static_cast<unsigned char>(c)] = true;
-  return table;
-}();
-
 bool IsNumberCharacter(char c) {
-  return kIsNumberCharacter[static_cast<unsigned char>(c)];
+  return KindOf(c) == ByteKind::Number;
+}
+
+bool IsStrange(char c) {
+  return KindOf(c) == ByteKind::Strange;
 }
 
 }  // namespace
@@ -39,6 +35,7 @@ void DataFileReader::Feed(std::string_view bytes) {
     if (textEnd == end) return;
     if (!texts[field].empty()) EndText();
     at = std::find_if(textEnd, end, IsNumberCharacter);
+    data.strangeBytes += static_cast<std::size_t>(std::count_if(textEnd, at, IsStrange));
   }
 }
 

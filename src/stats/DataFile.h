@@ -15,6 +15,9 @@ struct DataSet {
   std::int32_t total = 0;
   /// Rows with a text for every column. Only a file without any has an incomplete row.
   std::size_t completeRows = 0;
+  /// Bytes that belong to no text and are no separators of an ordinary file: a heading has them,
+  /// and a file that is no data file.
+  std::size_t strangeBytes = 0;
 };
 
 /// Reads a data file: runs of number characters are the rows' texts in turn, everything else

@@ -3,15 +3,12 @@
 #include <QString>
 
 #include "stats/DataFile.h"
-#include "stats/Progress.h"
+#include "stats/FilePieces.h"
 
 namespace vexa {
 
-/// How the reading or writing of a file ended. Unless it is Done, everything is as it was.
-enum class FileOutcome { Done, Failed, Stopped };
-
-/// Reads the data file at `path` into `data`. What the file gains while it is read is left out. A
-/// file with more than `mostRows` rows is as good as unreadable.
+/// Reads the data file at `path` into `data`. A file with more than `mostRows` rows is refused; the
+/// rows of a large one are counted before it is read.
 FileOutcome LoadDataFile(const QString& path, std::size_t columns, std::size_t mostRows,
                          const ProgressWatcher& watcher, DataSet& data);
 

@@ -149,6 +149,11 @@ std::optional<std::vector<std::size_t>> DataList::OrderBy(std::size_t column,
   return SortOrder(values, nextDirection, sorting);
 }
 
+void DataList::Restore(DataSet data) {
+  Load(std::move(data));
+  modified = true;
+}
+
 void DataList::Load(DataSet data) {
   rows = std::move(data.rows);
   numbers = {};

@@ -111,10 +111,14 @@ class DataList {
   bool Sort(std::size_t column, const ProgressWatcher& watcher = Unwatched);
   /// Takes the place of all rows.
   void Load(DataSet data);
+  /// The same with rows that were kept aside: no file has them.
+  void Restore(DataSet data);
   /// The rows are in a file now.
   void Saved() { modified = false; }
   /// Whether rows would be lost that are worth a question; a single observation is not, meant.
   bool AsksToSave() const { return total > 1 && modified; }
+  /// Whether rows would be lost that are worth to be kept aside where nobody can be asked.
+  bool IsWorthKeeping() const { return modified && (total > 1 || RowCount() > 1); }
 
   /// The column by which the rows stand sorted, and how; none once that no longer holds.
   struct SortMark {

@@ -1,5 +1,7 @@
 #include "stats/DataTableModel.h"
 
+#include <algorithm>
+
 #include "display/WideText.h"
 
 namespace vexa {
@@ -7,6 +9,8 @@ namespace {
 
 /// Characters of a cell that are shown; a text may be of any length.
 constexpr std::size_t kMostShown = 300;
+/// Rows that a view takes within a few frames.
+constexpr int kMostAtOnce = 2'000'000;
 
 QString CellText(std::string_view cell) {
   const std::string_view shown = cell.substr(0, kMostShown);
@@ -62,10 +66,18 @@ void DataTableModel::TextsChanged() {
   if (rows > 0) emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
 }
 
-void DataTableModel::RowsReplaced() {
+void DataTableModel::RowsReplaced(const std::function<void()>& between) {
+  const int count = static_cast<int>(list.RowCount());
   beginResetModel();
-  rows = static_cast<int>(list.RowCount());
+  rows = std::min(count, kMostAtOnce);
   endResetModel();
+  while (rows < count) {
+    between();
+    const int more = std::min(count - rows, kMostAtOnce);
+    beginInsertRows({}, rows, rows + more - 1);
+    rows += more;
+    endInsertRows();
+  }
 }
 
 }  // namespace vexa

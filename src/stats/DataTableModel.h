@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <functional>
 
 #include "stats/DataList.h"
 
@@ -25,7 +26,9 @@ class DataTableModel : public QAbstractTableModel {
   void RowRemoved(int row);
   /// Rows have other texts; as many are there as before.
   void TextsChanged();
-  void RowsReplaced();
+  /// All rows are others. A view takes millions of rows in pieces, so that no piece takes longer
+  /// than a person notices; `between` runs between two pieces.
+  void RowsReplaced(const std::function<void()>& between = [] {});
 
  private:
   const DataList& list;

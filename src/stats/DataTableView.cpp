@@ -61,6 +61,8 @@ DataTableView::DataTableView(const DataList& shownList, QWidget* parent)
   headings->setHighlightSections(false);
   headings->setSectionsClickable(true);
   headings->setSortIndicatorShown(true);
+  // The headings would look through all rows to see whether a column is selected whole.
+  headings->setSelectionModel(new QItemSelectionModel(rows, this));
   ShowSortMark();
   connect(headings, &QHeaderView::sectionClicked, this, &DataTableView::SortAsked);
   connect(this, &QTableView::doubleClicked, this, &DataTableView::EditAsked);
@@ -93,7 +95,10 @@ void DataTableView::keyPressEvent(QKeyEvent* event) {
     emit DeleteAsked();
   } else if (IsEditKey(event->key())) {
     // A held key that has just ended an editing does not start it again.
-    if (!event->isAutoRepeat()) emit EditAsked();
+    if (event->isAutoRepeat()) return;
+    // The row that the keys have come to is as good as selected.
+    if (!FirstSelectedRow() && currentIndex().isValid()) selectRow(currentIndex().row());
+    emit EditAsked();
   } else if (StartsNumber(*event)) {
     emit NumberTyped(event->text());
   } else {

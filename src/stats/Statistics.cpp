@@ -14,6 +14,30 @@ constexpr std::size_t kPredictionValues = 2;
 /// The characters that an edit holds; a cell of a file may be longer.
 constexpr std::size_t kLongestEdit = 32767;
 
+std::wstring CountOf(std::size_t count, std::wstring_view thing) {
+  return std::to_wstring(count) + L' ' + std::wstring(thing) + (count == 1 ? L"" : L"s");
+}
+
+/// How much of a file was understood, so that a heading and a wrong file are seen at once.
+std::wstring LoadedNotice(const DataSet& data) {
+  const std::wstring rows = CountOf(data.rows.Count(), L"row") + L" read";
+  if (data.strangeBytes == 0) return rows + L'.';
+  return rows + L"; " + CountOf(data.strangeBytes, L"other character") + L" skipped.";
+}
+
+/// What is said beside a result that is as it must be and still not what a person expects.
+std::wstring_view SentenceOf(ResultDoubt doubt) {
+  switch (doubt) {
+    case ResultDoubt::DigitsLost:
+      return L"Digits were lost. Subtract a number near the mean from all values first.";
+    case ResultDoubt::CountsHalved:
+      return L"Counts other than 1 distort this fit. Enter each row as often as it counts.";
+    case ResultDoubt::None:
+      break;
+  }
+  return {};
+}
+
 }  // namespace
 
 Statistics::Statistics(SettingsStore& settingsStore, std::span<const ListColumn> columns)
@@ -27,6 +51,7 @@ EntryFault Statistics::Add(const EntryTexts& texts) {
   DataEntry entry;
   EntryFault fault = ReadEntry(texts, entry);
   if (!fault.sentence.empty()) return fault;
+  notice.clear();
   list.Add(CellTexts(entry), entry.count);
   regression.Invalidate();
   return {};
@@ -38,31 +63,52 @@ EntryTexts Statistics::Edit(std::size_t row) {
     const std::string_view cell = list.Cell(row, column).substr(0, kLongestEdit);
     texts.emplace_back(cell.begin(), cell.end());
   }
+  notice.clear();
   list.Edit(row);
   return texts;
+}
+
+void Statistics::Cancel() {
+  notice.clear();
+  list.Cancel();
+}
+
+void Statistics::TakeSorted(DataList::SortedRows sorted) {
+  notice.clear();
+  list.TakeSorted(std::move(sorted));
 }
 
 EntryFault Statistics::Ok(const EntryTexts& texts) {
   DataEntry entry;
   EntryFault fault = ReadEntry(texts, entry);
   if (!fault.sentence.empty()) return fault;
+  notice.clear();
   list.Ok(CellTexts(entry), entry.count);
   regression.Invalidate();
   return {};
 }
 
 void Statistics::Delete(std::size_t row) {
+  notice.clear();
   list.Delete(row);
   regression.Invalidate();
 }
 
 void Statistics::Clear() {
+  notice.clear();
   list.Clear();
   regression.Invalidate();
 }
 
 void Statistics::Load(DataSet data) {
+  notice = LoadedNotice(data);
   list.Load(std::move(data));
+  regression.Invalidate();
+}
+
+void Statistics::Restore(DataSet data) {
+  notice = CountOf(data.rows.Count(), L"row") + L" restored.";
+  list.Restore(std::move(data));
   regression.Invalidate();
 }
 
@@ -84,18 +130,24 @@ std::optional<EntryFault> Statistics::ShowResult(std::wstring_view caption, cons
     lastResult = key->compute(source);
     doubt = DoubtOf(*key, source);
   }
+  notice = SentenceOf(doubt);
   ShowLastResult();
   return EntryFault();
 }
 
 void Statistics::ChooseModel(RegressionModel model) {
+  notice.clear();
   regression.ChooseModel(model);
   list.ModelChosen(model == RegressionModel::Linear);
 }
 
 std::optional<std::wstring> Statistics::PreparePlot(GraphData& graph,
                                                     const ProgressWatcher& watcher) {
-  return PrepareRegressionPlot(list, regression, precision, watcher, lastError, graph);
+  auto message = PrepareRegressionPlot(list, regression, precision, watcher, lastError, graph);
+  if (message) {
+    notice = SentenceOf(regression.HalvesCounts() ? ResultDoubt::CountsHalved : ResultDoubt::None);
+  }
+  return message;
 }
 
 std::wstring Statistics::RecallText(std::wstring_view variableText) {

@@ -41,11 +41,13 @@ class Statistics {
   EntryTexts Edit(std::size_t row);
   /// Ends editing with what the edits hold, or says what is wrong with them and goes on.
   EntryFault Ok(const EntryTexts& texts);
-  void Cancel() { list.Cancel(); }
+  void Cancel();
   void Delete(std::size_t row);
   void Clear();
-  void TakeSorted(DataList::SortedRows sorted) { list.TakeSorted(std::move(sorted)); }
+  void TakeSorted(DataList::SortedRows sorted);
   void Load(DataSet data);
+  /// Takes rows that were kept aside.
+  void Restore(DataSet data);
   void Saved() { list.Saved(); }
 
   /// Computes and shows what the key with this caption stands for. A prediction reads the X and Y
@@ -79,6 +81,8 @@ class Statistics {
 
   /// The result line's text; empty before the first result.
   std::wstring resultLine;
+  /// What a quiet line says of the last operation; empty: nothing.
+  std::wstring notice;
   /// The sentence of the last number that could not be shown; empty when it could.
   std::wstring lastError;
   /// The last statistic that was shown, whatever it was.

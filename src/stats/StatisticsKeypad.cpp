@@ -22,6 +22,24 @@ constexpr Key NewKey(std::wstring_view caption, KeyRole role, int row, int colum
 }
 
 constexpr std::wstring_view kModelHelp = L"The curve that is fitted; press to choose another";
+constexpr std::wstring_view kCurveHelp =
+    L"The curve that is fitted; press to choose another. Counts other than 1 distort the fit: "
+    L"enter "
+    L"each row as often as it counts";
+
+// What all values have in common costs a deviation its digits.
+constexpr std::wstring_view kDeviationXN1 =
+    L"Standard deviation of X, divisor n-1. Values that share many digits lose them: subtract a "
+    L"number near the mean first";
+constexpr std::wstring_view kDeviationXN =
+    L"Standard deviation of X, divisor n. Values that share many digits lose them: subtract a "
+    L"number near the mean first";
+constexpr std::wstring_view kDeviationYN1 =
+    L"Standard deviation of Y, divisor n-1. Values that share many digits lose them: subtract a "
+    L"number near the mean first";
+constexpr std::wstring_view kDeviationYN =
+    L"Standard deviation of Y, divisor n. Values that share many digits lose them: subtract a "
+    L"number near the mean first";
 
 // clang-format off
 constexpr Key kEntryKeys[] = {
@@ -43,8 +61,8 @@ constexpr Key kOneVarKeys[] = {
     NewKey(L"\u03A3X^2",            Function, 0, 2, 2, L"Sum of the squares of X"),
     NewKey(L"MEM",                  Command,  0, 4, 2, L"Memory variables"),
     NewKey(L"Arithmetic Mean of X", Function, 1, 0, 6, L"Arithmetic mean of X"),
-    NewKey(L"\u03C3(n-1) of X",     Function, 2, 0, 3, L"Standard deviation of X, divisor n-1"),
-    NewKey(L"\u03C3(n) of X",       Function, 2, 3, 3, L"Standard deviation of X, divisor n"),
+    NewKey(L"\u03C3(n-1) of X",     Function, 2, 0, 3, kDeviationXN1),
+    NewKey(L"\u03C3(n) of X",       Function, 2, 3, 3, kDeviationXN),
 };
 
 constexpr Key kTwoVarKeys[] = {
@@ -57,16 +75,16 @@ constexpr Key kTwoVarKeys[] = {
     NewKey(L"Mean of X",        Function, 2, 0, 2, L"Arithmetic mean of X"),
     NewKey(L"Mean of Y",        Function, 2, 2, 2, L"Arithmetic mean of Y"),
     NewKey(L"Lin",              Command,  2, 4, 2, kModelHelp),
-    NewKey(L"Pow",              Command,  2, 4, 2, kModelHelp),
-    NewKey(L"Inv",              Command,  2, 4, 2, kModelHelp),
-    NewKey(L"Log",              Command,  2, 4, 2, kModelHelp),
-    NewKey(L"Exp",              Command,  2, 4, 2, kModelHelp),
-    NewKey(L"Quad",             Command,  2, 4, 2, kModelHelp),
-    NewKey(L"\u03C3(n-1) of X", Function, 3, 0, 2, L"Standard deviation of X, divisor n-1"),
-    NewKey(L"\u03C3(n-1) of Y", Function, 3, 2, 2, L"Standard deviation of Y, divisor n-1"),
+    NewKey(L"Pow",              Command,  2, 4, 2, kCurveHelp),
+    NewKey(L"Inv",              Command,  2, 4, 2, kCurveHelp),
+    NewKey(L"Log",              Command,  2, 4, 2, kCurveHelp),
+    NewKey(L"Exp",              Command,  2, 4, 2, kCurveHelp),
+    NewKey(L"Quad",             Command,  2, 4, 2, kCurveHelp),
+    NewKey(L"\u03C3(n-1) of X", Function, 3, 0, 2, kDeviationXN1),
+    NewKey(L"\u03C3(n-1) of Y", Function, 3, 2, 2, kDeviationYN1),
     NewKey(L"Plot",             Command,  3, 4, 2, L"Draw the data and the fitted curve"),
-    NewKey(L"\u03C3(n) of X",   Function, 4, 0, 2, L"Standard deviation of X, divisor n"),
-    NewKey(L"\u03C3(n) of Y",   Function, 4, 2, 2, L"Standard deviation of Y, divisor n"),
+    NewKey(L"\u03C3(n) of X",   Function, 4, 0, 2, kDeviationXN),
+    NewKey(L"\u03C3(n) of Y",   Function, 4, 2, 2, kDeviationYN),
     NewKey(L"r",                Function, 4, 4, 2, L"Correlation coefficient of the linear model"),
     NewKey(L"C",                Function, 4, 4, 2, L"Coefficient C of the fitted curve"),
     NewKey(L"A",                Function, 5, 0, 1, L"Coefficient A of the fitted curve"),

@@ -1,5 +1,7 @@
 #include "stats/StatisticsScreen.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
@@ -16,11 +18,12 @@
 #include "stats/DataFileAccess.h"
 #include "stats/DataTableView.h"
 #include "stats/EntryEdit.h"
+#include "stats/KeptRowsOffer.h"
+#include "stats/RowsPane.h"
 #include "toolkit/FileDialogs.h"
 #include "toolkit/KeyButton.h"
 #include "toolkit/Keypad.h"
 #include "toolkit/MessageBox.h"
-#include "toolkit/ProgressBox.h"
 #include "toolkit/ResultLine.h"
 #include "toolkit/TouchSize.h"
 
@@ -62,11 +65,14 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
       store(settingsStore),
       statistics(settingsStore, columns),
       form(new DataEntryForm(columns, this)),
-      table(new DataTableView(statistics.List(), this)),
+      rowsPane(new RowsPane(statistics.List(), this)),
+      table(rowsPane->Table()),
       listKeys(new Keypad(ListKeys(), this)),
       resultLine(new ResultLine(this)),
       resultArea(new QScrollArea(this)),
-      resultKeys(new Keypad(keys, this)) {
+      resultKeys(new Keypad(keys, this)),
+      keptFiles(QFile::decodeName(settingsStore.Folder().c_str()), columns.size()),
+      offered(keptFiles.Latest()) {
   listKeys->SetKeyHeight(kTouchHeight);
   listKeys->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   resultKeys->SetKeyHeight(kTouchHeight);
@@ -74,7 +80,7 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
   resultLine->setAccessibleName(QStringLiteral("Result"));
   resultLine->setFixedHeight(kTouchHeight);
   Content()->addWidget(form);
-  Content()->addWidget(table, kListShare);
+  Content()->addWidget(rowsPane, kListShare);
   Content()->addWidget(listKeys);
   Content()->addWidget(resultLine);
   resultArea->setFrameShape(QFrame::NoFrame);
@@ -101,7 +107,15 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
     HideKeyboard();
     Refresh();
   });
+  connect(rowsPane->Offer(), &KeptRowsOffer::RestoreAsked, this, &StatisticsScreen::Restore);
+  connect(rowsPane->Offer(), &KeptRowsOffer::DiscardAsked, this, &StatisticsScreen::Discard);
   Refresh();
+}
+
+StatisticsScreen::~StatisticsScreen() {
+  const bool keeps = !leavesAgreed && statistics.List().IsWorthKeeping();
+  const bool safe = !keeps || keptFiles.Keep(statistics.List().Rows()).end == FileEnd::Done;
+  if (safe && restored) QFile::remove(*restored);
 }
 
 void StatisticsScreen::BuildMenus() {
@@ -131,6 +145,9 @@ void StatisticsScreen::Refresh() {
   table->setEnabled(state.controls.list);
   for (QAction* const sort : sortCommands) sort->setEnabled(state.controls.list);
   table->ShowSortMark();
+  rowsPane->Offer()->setVisible(offered.has_value());
+  rowsPane->Offer()->setEnabled(state.controls.load);
+  rowsPane->ShowNotice(FromWide(statistics.notice));
   resultLine->ShowText(FromWide(statistics.resultLine));
   SetDefaultButton(form->Button(state.editing ? L"Ok" : L"Add"));
 }
@@ -160,6 +177,10 @@ void StatisticsScreen::resizeEvent(QResizeEvent* event) {
   const bool haveRoom = others + listHeight + keys <= height();
   resultArea->setMinimumHeight(haveRoom ? keys : kLeastResultsHeight);
   ModeScreen::resizeEvent(event);
+}
+
+void StatisticsScreen::SayThatMemoryIsShort() {
+  ShowErrorBox(this, L"There is not enough memory.");
 }
 
 bool StatisticsScreen::Complain(const EntryFault& fault) {
@@ -240,8 +261,11 @@ void StatisticsScreen::Clear() {
 
 void StatisticsScreen::Sort(int column) {
   if (!statistics.List().Controls().list) return;
-  auto sorted = RunWithProgress(this, QStringLiteral("Sorting..."), [&](auto watcher) {
-    return statistics.List().Sorted(static_cast<std::size_t>(column), watcher);
+  auto sorted = RunBeside(QStringLiteral("Sorting..."), [&](const ProgressWatcher& watcher) {
+    auto rows = statistics.List().Sorted(static_cast<std::size_t>(column), watcher);
+    // Without an order and not stopped, there was not enough room.
+    if (!rows && watcher(0.0)) throw std::bad_alloc();
+    return rows;
   });
   if (sorted) {
     statistics.TakeSorted(*std::move(sorted));
@@ -251,7 +275,10 @@ void StatisticsScreen::Sort(int column) {
 }
 
 void StatisticsScreen::PrepareToLeave(const std::function<void()>& leave) {
-  AskToSaveThen(leave);
+  AskToSaveThen([this, leave] {
+    leavesAgreed = true;
+    leave();
+  });
 }
 
 void StatisticsScreen::AskToSaveThen(std::function<void()> next) {
@@ -272,9 +299,9 @@ void StatisticsScreen::SaveTo(const QString& path, const std::function<void()>& 
   const FileOutcome outcome = RunWithProgress(this, QStringLiteral("Saving..."), [&](auto watcher) {
     return SaveDataFile(path, statistics.List().Rows(), watcher);
   });
-  if (outcome == FileOutcome::Failed) ShowErrorBox(this, std::wstring(file_dialogs::kFileError));
+  if (outcome.end == FileEnd::Failed) file_dialogs::ShowFileError(this, path, outcome.reason);
   // The rows are still to be saved: what was to come next could lose them.
-  if (outcome != FileOutcome::Done) return;
+  if (outcome.end != FileEnd::Done) return;
   statistics.Saved();
   next();
 }
@@ -296,18 +323,56 @@ void StatisticsScreen::LoadFrom(const QString& path) {
       RunWithProgress(this, QStringLiteral("Loading..."), [&](auto watcher) {
         return LoadDataFile(path, columns, DataTableView::kMostRows, watcher, loaded);
       });
-  if (outcome == FileOutcome::Failed) {
-    return ShowErrorBox(this, std::wstring(file_dialogs::kFileError));
-  }
-  if (outcome == FileOutcome::Stopped) return;
+  if (outcome.end == FileEnd::Failed) file_dialogs::ShowFileError(this, path, outcome.reason);
+  if (outcome.end != FileEnd::Done) return;
   statistics.Load(std::move(loaded));
-  table->Rows()->RowsReplaced();
+  ShowNewRows();
+}
+
+void StatisticsScreen::ShowNewRows() {
+  // What is typed meanwhile is for the list when it is whole.
+  table->Rows()->RowsReplaced(
+      [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); });
   statistics.SelectionChanged(false);
   Refresh();
 }
 
+void StatisticsScreen::Restore() {
+  LeaveEdits();
+  AskToSaveThen([this] { RestoreOffered(); });
+}
+
+void StatisticsScreen::RestoreOffered() {
+  const QString path = std::exchange(offered, std::nullopt).value_or(QString());
+  DataSet kept{PackedRows(statistics.List().Columns().size())};
+  const FileOutcome outcome =
+      RunWithProgress(this, QStringLiteral("Loading..."),
+                      [&](auto watcher) { return keptFiles.Read(path, watcher, kept); });
+  if (outcome.end == FileEnd::Done) {
+    restored = path;
+    statistics.Restore(std::move(kept));
+    return ShowNewRows();
+  }
+  offered = keptFiles.Latest();
+  Refresh();
+  if (outcome.end == FileEnd::Failed) file_dialogs::ShowFileError(this, path, outcome.reason);
+}
+
+void StatisticsScreen::Discard() {
+  LeaveEdits();
+  AskYesNo(this, std::wstring(kDiscardQuestion), [this] {
+    QFile::remove(offered.value_or(QString()));
+    offered = keptFiles.Latest();
+    Refresh();
+  });
+}
+
 void StatisticsScreen::ShowResult(std::wstring_view caption) {
-  if (Complain(*statistics.ShowResult(caption, form->Texts()))) return;
+  const EntryTexts texts = form->Texts();
+  const auto fault = RunBeside(QStringLiteral("Computing..."), [&](const ProgressWatcher& watcher) {
+    return statistics.ShowResult(caption, texts, watcher);
+  });
+  if (!fault || Complain(*fault)) return;
   Refresh();
 }
 

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <functional>
+#include <new>
 #include <span>
 #include <string_view>
 
+#include "stats/KeptRowsFiles.h"
 #include "stats/Statistics.h"
 #include "stats/StatisticsKeypad.h"
 #include "toolkit/ModeScreen.h"
+#include "toolkit/ProgressBox.h"
 
 class QDialog;
 class QScrollArea;
@@ -17,6 +20,7 @@ class DataEntryForm;
 class DataTableView;
 class Keypad;
 class ResultLine;
+class RowsPane;
 
 /// What the statistics screens share, which is nearly all: edits, data list, files, results, memory
 /// variables. They differ in their columns and keys.
@@ -28,11 +32,25 @@ class StatisticsScreen : public ModeScreen {
   StatisticsScreen(Mode mode, SettingsStore& store, std::span<const ListColumn> columns,
                    std::span<const Key> keys, QWidget* parent);
 
+  /// Keeps rows aside that are not saved, unless the user has agreed to leave without.
+  ~StatisticsScreen() override;
+
   Statistics& Rules() { return statistics; }
   SettingsStore& Store() { return store; }
   Keypad* ResultKeys() const { return resultKeys; }
   /// Shows what the rules say.
   void Refresh();
+  /// Runs `work`, which takes a watcher, beside the window, and returns what it returns; nothing
+  /// when the memory does not suffice, which is said.
+  template <typename Work>
+  auto RunBeside(const QString& title, Work work) -> decltype(work(ProgressWatcher())) {
+    try {
+      return RunWithProgress(this, title, work);
+    } catch (const std::bad_alloc&) {
+      SayThatMemoryIsShort();
+      return {};
+    }
+  }
   /// Gives the edit that had the focus last the focus again when `dialog` is closed, and opens it.
   void OpenDialog(QDialog* dialog);
 
@@ -52,6 +70,7 @@ class StatisticsScreen : public ModeScreen {
   };
   static const KeyCommand kKeyCommands[];
 
+  void SayThatMemoryIsShort();
   void BuildMenus();
   StatisticsKeypadState KeypadState() const;
   /// Says what is wrong with an edit, whose focus comes back; false: nothing is.
@@ -75,6 +94,11 @@ class StatisticsScreen : public ModeScreen {
   }
   void Load();
   void LoadFrom(const QString& path);
+  /// Shows the rows that have taken the place of all others.
+  void ShowNewRows();
+  void Restore();
+  void RestoreOffered();
+  void Discard();
   void ShowResult(std::wstring_view caption);
   void OpenMemoryMenu();
   void RecallVariable();
@@ -91,12 +115,20 @@ class StatisticsScreen : public ModeScreen {
   SettingsStore& store;
   Statistics statistics;
   DataEntryForm* form;
+  RowsPane* rowsPane;
   DataTableView* table;
   Keypad* listKeys;
   QList<QAction*> sortCommands;
   ResultLine* resultLine;
   QScrollArea* resultArea;
   Keypad* resultKeys;
+
+  KeptRowsFiles keptFiles;
+  /// The kept rows that wait for an answer.
+  std::optional<QString> offered;
+  /// Those that were restored; their file goes when the rows are safe elsewhere.
+  std::optional<QString> restored;
+  bool leavesAgreed = false;
 };
 
 }  // namespace vexa

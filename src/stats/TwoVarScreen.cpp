@@ -37,8 +37,12 @@ void TwoVarScreen::OpenModelMenu() {
 
 void TwoVarScreen::Plot() {
   GraphData graph;
-  const std::wstring message = *Rules().PreparePlot(graph);
-  if (!message.empty()) return ShowErrorBox(this, message);
+  const auto message = RunBeside(
+      QStringLiteral("Computing..."),
+      [&](const ProgressWatcher& watcher) { return Rules().PreparePlot(graph, watcher); });
+  if (!message) return;
+  Refresh();
+  if (!message->empty()) return ShowErrorBox(this, *message);
   OpenDialog(new GraphViewDialog(Store(), std::move(graph), this));
 }
 

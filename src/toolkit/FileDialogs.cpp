@@ -1,10 +1,13 @@
 #include "toolkit/FileDialogs.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFileSystemModel>
 #include <QSortFilterProxyModel>
 #include <deque>
 #include <utility>
+
+#include "toolkit/MessageBox.h"
 
 namespace vexa::file_dialogs {
 namespace {
@@ -79,6 +82,12 @@ void AskForFileToSave(QWidget* parent, const std::vector<FileKind>& kinds, Answe
 
 void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered) {
   AskForFileToSave(parent, std::vector<FileKind>{{filter, {}}}, std::move(answered));
+}
+
+void ShowFileError(QWidget* parent, const QString& path, const QString& reason,
+                   std::function<void()> closed) {
+  const QString details = QFileInfo(path).fileName() + QStringLiteral(": ") + reason;
+  ShowErrorBox(parent, std::wstring(kFileError), std::move(closed), details.toStdWString());
 }
 
 void AddNextAnswer(const Answer& answer) {

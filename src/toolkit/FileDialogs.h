@@ -33,6 +33,12 @@ void AskForFileToSave(QWidget* parent, const std::vector<FileKind>& kinds, Answe
 /// The same for a single kind; no suffix is added to a name.
 void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered);
 
+/// Says that the file at `path` could not be read or written, and the system's `reason`; `closed`
+/// runs when the user has read it.
+void ShowFileError(
+    QWidget* parent, const QString& path, const QString& reason,
+    std::function<void()> closed = [] {});
+
 /// For tests: the next dialogs do not open and end with these answers, in this order.
 void AddNextAnswer(const Answer& answer);
 

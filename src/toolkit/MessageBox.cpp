@@ -1,5 +1,6 @@
 #include "toolkit/MessageBox.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <utility>
@@ -21,8 +22,15 @@ QMessageBox* NewBox(QWidget* parent, QMessageBox::Icon icon, const std::wstring&
 
 }  // namespace
 
-void ShowErrorBox(QWidget* parent, const std::wstring& sentence, std::function<void()> closed) {
+void ShowErrorBox(QWidget* parent, const std::wstring& sentence, std::function<void()> closed,
+                  const std::wstring& details) {
   QMessageBox* const box = NewBox(parent, QMessageBox::Critical, sentence, QMessageBox::Ok);
+  if (!details.empty()) {
+    box->setInformativeText(FromWide(details));
+    // A file's name may look like markup.
+    box->findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))
+        ->setTextFormat(Qt::PlainText);
+  }
   QObject::connect(box, &QMessageBox::finished, parent, std::move(closed));
   box->open();
 }

@@ -8,10 +8,11 @@ class QWidget;
 
 namespace vexa {
 
-/// Shows `sentence` with the error icon over `parent`; `closed` runs when the user has closed it,
-/// for example to give the focus to the field at fault.
+/// Shows `sentence` with the error icon over `parent`, and `details` smaller below it; `closed`
+/// runs when the user has closed it, for example to give the focus to the field at fault.
 void ShowErrorBox(
-    QWidget* parent, const std::wstring& sentence, std::function<void()> closed = [] {});
+    QWidget* parent, const std::wstring& sentence, std::function<void()> closed = [] {},
+    const std::wstring& details = {});
 
 /// Asks `question` with the question icon, answers "Yes" and "No" (the default); `yes` runs when
 /// the user agrees.

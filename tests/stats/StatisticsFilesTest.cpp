@@ -70,6 +70,8 @@ class StatisticsFilesTest : public QObject {
   void CancelledDialogsChangeNothing();
   void LoadAsksFirst();
   void LoadWithoutAnAnswerStops();
+  void LoadingSaysHowMuchWasRead_data();
+  void LoadingSaysHowMuchWasRead();
   void LoadingDropsTheSelection();
   void LoadingAnEmptyFileLeavesTheKeys();
   void MalformedFiles_data();
@@ -197,6 +199,27 @@ void StatisticsFilesTest::LoadWithoutAnAnswerStops() {
   QCOMPARE(one->Rows(), (QStringList{"4 1", "2.5 3"}));
 }
 
+void StatisticsFilesTest::LoadingSaysHowMuchWasRead_data() {
+  QTest::addColumn<QByteArray>("bytes");
+  QTest::addColumn<QString>("notice");
+  QTest::newRow("ordinary") << QByteArray("1\t2\r\n3\t4\r\n") << "2 rows read.";
+  QTest::newRow("one row") << QByteArray("1\t2\r\n") << "1 row read.";
+  QTest::newRow("empty") << QByteArray() << "0 rows read.";
+  QTest::newRow("heading") << QByteArray("X\tCount\r\n1\t2\r\n")
+                           << "1 row read; 6 other characters skipped.";
+  QTest::newRow("large E") << QByteArray("1E5\t2\r\n") << "1 row read; 1 other character skipped.";
+}
+
+void StatisticsFilesTest::LoadingSaysHowMuchWasRead() {
+  QFETCH(QByteArray, bytes);
+  QFETCH(QString, notice);
+  QCOMPARE(one->Notice(), QString());
+  one->Load(bytes);
+  QCOMPARE(one->Notice(), notice);
+  one->Add({"1", "1"});
+  QCOMPARE(one->Notice(), QString());
+}
+
 void StatisticsFilesTest::LoadingDropsTheSelection() {
   one->Add({"1", "1"});
   one->SelectRows({0});
@@ -257,17 +280,24 @@ void StatisticsFilesTest::MalformedFiles() {
 
 void StatisticsFilesTest::UnreadableFiles_data() {
   QTest::addColumn<QString>("path");
-  QTest::newRow("missing") << "/no/such/file.txt";
-  QTest::newRow("a directory") << "/tmp";
-  QTest::newRow("an endless device") << "/dev/zero";
-  QTest::newRow("below a file") << "/dev/null/data.txt";
+  QTest::addColumn<QString>("details");
+  QTest::newRow("missing") << "/no/such/file.txt"
+                           << "file.txt: No such file or directory";
+  QTest::newRow("a directory") << "/tmp"
+                               << "tmp: Is a directory";
+  QTest::newRow("an endless device") << "/dev/zero"
+                                     << "zero: Not an ordinary file";
+  QTest::newRow("below a file") << "/dev/null/data.txt"
+                                << "data.txt: Not a directory";
 }
 
 void StatisticsFilesTest::UnreadableFiles() {
   QFETCH(QString, path);
+  QFETCH(QString, details);
   one->Add({"2.5", "1"});
   LoadFrom(path);
   QCOMPARE(one->BoxText(), kFileError);
+  QCOMPARE(one->Box()->informativeText(), details);
   QCOMPARE(one->Box()->icon(), QMessageBox::Critical);
   one->Answer(QMessageBox::Ok);
   QCOMPARE(one->Rows(), (QStringList{"2.5 1"}));
@@ -285,6 +315,7 @@ void StatisticsFilesTest::AFullDiskKeepsTheOldFile() {
   }
   QCOMPARE(one->BoxText(), kFileError);
   QCOMPARE(one->Box()->icon(), QMessageBox::Critical);
+  QCOMPARE(one->Box()->informativeText(), QStringLiteral("data.txt: File too large"));
   one->Answer(QMessageBox::Ok);
   QCOMPARE(one->FileBytes("data.txt"), old);
   QCOMPARE(QDir(QFileInfo(one->FileName("data.txt")).path()).entryList(QDir::Files),

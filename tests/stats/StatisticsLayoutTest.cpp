@@ -1,6 +1,7 @@
 // The layout of both screens at several sizes: everything can be hit, read and reached.
 
 #include <QHeaderView>
+#include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -30,6 +31,8 @@ class StatisticsLayoutTest : public QObject {
   void NothingOverlaps_data() { FitsTheWindow_data(); }
   void NothingOverlaps();
   void ShowsAllKeysAtTheOpeningSize();
+  void QuietLinesMoveNoKey_data() { FitsTheWindow_data(); }
+  void QuietLinesMoveNoKey();
   void EveryKeyIsReachedByScrolling();
   void ColumnsHoldAWideValue();
   void TabGoesThroughTheControlsAsRead();
@@ -105,6 +108,26 @@ void StatisticsLayoutTest::ShowsAllKeysAtTheOpeningSize() {
       QCOMPARE(key->visibleRegion().boundingRect(), key->rect());
     }
   }
+}
+
+void StatisticsLayoutTest::QuietLinesMoveNoKey() {
+  QFETCH(int, mode);
+  QFETCH(QSize, size);
+  StatisticsScreenDriver screen(static_cast<Mode>(mode), size);
+  const auto places = [&] {
+    QList<QRect> all;
+    for (const QPushButton* key : screen.screen->findChildren<QPushButton*>()) {
+      if (key->isVisible()) all << QRect(key->mapTo(screen.screen, QPoint()), key->size());
+    }
+    return all;
+  };
+  const QList<QRect> before = places();
+  screen.Load("Heading\r\n1\t2\t1\r\n");
+  QVERIFY(!screen.Notice().isEmpty());
+  screen.screen->layout()->activate();
+  QCOMPARE(places(), before);
+  const auto* const notice = screen.screen->findChild<QLabel*>(QStringLiteral("Notice"));
+  QVERIFY(notice->height() >= notice->heightForWidth(notice->width()));
 }
 
 void StatisticsLayoutTest::EveryKeyIsReachedByScrolling() {

@@ -33,6 +33,7 @@ class StatisticsListTest : public QObject {
   void EditingShowsOkAndCancel();
   void RowsStayReadableWhileOneIsEdited();
   void RowsThatAreGoneShowNothing();
+  void AViewTakesMillionsOfRowsInPieces();
   void OkWritesTheRow();
   void EnterIsOkWhileEditing();
   void AnUnreadableEditLeavesEditingOn();
@@ -43,6 +44,7 @@ class StatisticsListTest : public QObject {
   void TheFirstNumberTakesThePlaceOfTheZero();
   void EnterMeansWhatHasTheFocus_data();
   void EnterMeansWhatHasTheFocus();
+  void EnterEditsTheRowThatTheKeysCameTo();
   void ANumberTypedInTheListIsTheNextValue();
   void F2AndADoubleClickEdit();
   void DeleteAsksAndDeletesTheTopmostOnly();
@@ -202,6 +204,23 @@ void StatisticsListTest::RowsThatAreGoneShowNothing() {
   QVERIFY(!model.index(1, 0).data().isValid());
 }
 
+void StatisticsListTest::AViewTakesMillionsOfRowsInPieces() {
+  constexpr int kRows = 4'500'000;
+  DataSet data{PackedRows(2)};
+  const std::vector<std::string> row{"1", "1"};
+  for (int n = 0; n < kRows; ++n) data.rows.Append(row);
+  DataList list(kOneVarColumns);
+  DataTableModel model(list, nullptr);
+  list.Load(std::move(data));
+  QList<int> shown;
+  model.RowsReplaced([&] { shown << model.rowCount(); });
+  QCOMPARE(shown, (QList<int>{2'000'000, 4'000'000}));
+  QCOMPARE(model.rowCount(), kRows);
+  list.Clear();
+  model.RowsReplaced();
+  QCOMPARE(model.rowCount(), 0);
+}
+
 void StatisticsListTest::OkWritesTheRow() {
   one->Add({"1", "3"});
   one->Add({"2", "1"});
@@ -338,6 +357,16 @@ void StatisticsListTest::EnterMeansWhatHasTheFocus() {
   QCOMPARE(one->Rows(), (QStringList{"2 1", "1 1"}));
   QCOMPARE(one->Result(), result);
   QCOMPARE(one->BoxText(), question);
+}
+
+void StatisticsListTest::EnterEditsTheRowThatTheKeysCameTo() {
+  for (const char* value : {"1", "2", "3"}) one->Add({value, "1"});
+  QTest::keyClick(one->Edit("X"), Qt::Key_Tab);
+  one->Table()->setFocus(Qt::TabFocusReason);
+  QVERIFY(one->SelectedRows().isEmpty());
+  QTest::keyClick(one->Table(), Qt::Key_Return);
+  QVERIFY(one->IsShown("Ok"));
+  QCOMPARE(one->Edit("X")->text(), QStringLiteral("3"));
 }
 
 void StatisticsListTest::ANumberTypedInTheListIsTheNextValue() {

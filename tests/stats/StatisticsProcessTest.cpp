@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
@@ -32,6 +33,9 @@ class StatisticsProcessTest : public QObject {
   void SignalsDoNotWaitForAnAnswer();
   void ASignalStopsALongLoad();
   void ClosingTheWindowDoesNotAsk();
+  void WhatNobodyWasAskedAboutIsKept_data();
+  void WhatNobodyWasAskedAboutIsKept();
+  void WhatWasAskedAboutIsNotKept();
 
  private:
   void Wish(const char* name, const QString& value) {
@@ -172,6 +176,42 @@ void StatisticsProcessTest::ClosingTheWindowDoesNotAsk() {
   Start();
   ExpectGoodEnd();
   QVERIFY(!said.contains("Do you want to save"));
+}
+
+void StatisticsProcessTest::WhatNobodyWasAskedAboutIsKept_data() {
+  SignalsDoNotWaitForData_data();
+  QTest::newRow("close") << 0;
+}
+
+void StatisticsProcessTest::WhatNobodyWasAskedAboutIsKept() {
+  QFETCH(int, signalNumber);
+  if (signalNumber == 0) Wish("VEXA_TEST_DO", "close");
+  Start();
+  WaitFor("ready");
+  if (signalNumber != 0) kill(static_cast<pid_t>(process->processId()), signalNumber);
+  ExpectGoodEnd();
+  const QFileInfo kept(dir->filePath("config/Vexa Calculator/unsaved-1-var-1.rows"));
+  QVERIFY(kept.exists());
+  QVERIFY(!(kept.permissions() & (QFile::ReadGroup | QFile::ReadOther)));
+  Wish("VEXA_TEST_DO", "restore");
+  Start();
+  WaitFor("2 rows, total 2");
+  kill(static_cast<pid_t>(process->processId()), SIGKILL);
+  process->waitForFinished(kPatienceMs);
+  // Not even then they are lost.
+  Start();
+  WaitFor("2 rows, total 2");
+  kill(static_cast<pid_t>(process->processId()), SIGTERM);
+  ExpectGoodEnd();
+}
+
+void StatisticsProcessTest::WhatWasAskedAboutIsNotKept() {
+  AnsweringNoEndsWithoutSaving();
+  Wish("VEXA_TEST_DO", "restore");
+  Start();
+  WaitFor("nothing to restore");
+  kill(static_cast<pid_t>(process->processId()), SIGTERM);
+  ExpectGoodEnd();
 }
 
 }  // namespace vexa

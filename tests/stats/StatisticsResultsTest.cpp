@@ -7,10 +7,12 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 
 #include "display/SettingsLayout.h"
 #include "plotter/GraphViewDialog.h"
 #include "stats/StatisticsScreenDriver.h"
+#include "toolkit/ProgressBox.h"
 
 namespace vexa {
 
@@ -39,6 +41,10 @@ class StatisticsResultsTest : public QObject {
   void QuadraticKeys();
   void LoadingEnablesRWhateverTheModel();
   void PredictionsComplainAboutTheirEdits();
+  void SaysWhenADeviationLostItsDigits();
+  void SaysWhenCountsDistortAFit();
+  void LongResultsCanBeCancelled_data();
+  void LongResultsCanBeCancelled();
   void PlotsTheCurveAndTheData_data();
   void PlotsTheCurveAndTheData();
   void RefusesToPlot();
@@ -189,6 +195,86 @@ void StatisticsResultsTest::PredictionsComplainAboutTheirEdits() {
   QCOMPARE(two->Result(), QStringLiteral("9"));
   two->Press("X'");
   QCOMPARE(two->Result(), QStringLiteral("4"));
+}
+
+void StatisticsResultsTest::SaysWhenADeviationLostItsDigits() {
+  const QString lost =
+      QStringLiteral("Digits were lost. Subtract a number near the mean from all values first.");
+  for (int n = 0; n < 7; ++n) one->Add({"9.81", "1"});
+  one->Press("Arithmetic Mean of X");
+  QCOMPARE(one->Notice(), QString());
+  one->Press("σ(n-1) of X");
+  QCOMPARE(one->Result(), kOverflow);
+  QCOMPARE(one->Notice(), lost);
+  one->Press("ΣX");
+  QCOMPARE(one->Notice(), QString());
+  one->Press("Clear");
+  one->Answer(QMessageBox::Yes);
+  for (int n = 0; n < 3; ++n) one->Add({"5.1", "1"});
+  one->Press("σ(n) of X");
+  QCOMPARE(one->Notice(), lost);
+  one->Add({"7", "1"});
+  QCOMPARE(one->Notice(), QString());
+  one->Press("σ(n) of X");
+  QCOMPARE(one->Notice(), QString());
+  QVERIFY(one->Key("σ(n) of X")->toolTip().contains("subtract a number near the mean"));
+}
+
+void StatisticsResultsTest::SaysWhenCountsDistortAFit() {
+  const QString distort =
+      QStringLiteral("Counts other than 1 distort this fit. Enter each row as often as it counts.");
+  two->Add({"1", "2", "1"});
+  two->Add({"2", "4", "3"});
+  two->Add({"3", "7", "1"});
+  two->Press("A");
+  QCOMPARE(two->Notice(), QString());
+  two->Press("Lin");
+  two->ChooseFrom("Models", "Power : A*X^B");
+  for (const char* key : {"A", "B", "Y'", "X'"}) {
+    two->Press(key);
+    QCOMPARE(two->Notice(), distort);
+    two->Press("ΣX");
+    QCOMPARE(two->Notice(), QString());
+  }
+  two->Press("Plot");
+  QCOMPARE(two->Notice(), distort);
+  two->screen->findChild<GraphViewDialog*>()->close();
+  QVERIFY(two->Key("Pow")->toolTip().contains("Counts other than 1 distort the fit"));
+  QVERIFY(!two->Key("Lin")->toolTip().contains("Counts"));
+  two->SelectRows({1});
+  two->Press("Edit");
+  two->Type({"2", "4", "1"});
+  two->Press("Ok");
+  two->Press("A");
+  QCOMPARE(two->Notice(), QString());
+}
+
+void StatisticsResultsTest::LongResultsCanBeCancelled_data() {
+  QTest::addColumn<QString>("key");
+  for (const char* key : {"ΣX", "σ(n) of Y", "A", "Y'", "r", "Plot"}) QTest::newRow(key) << key;
+}
+
+void StatisticsResultsTest::LongResultsCanBeCancelled() {
+  QFETCH(QString, key);
+  two->Load(QByteArray("1\t2\t1\r\n2\t5\t1\r\n").repeated(50000));
+  two->Press("ΣXY");
+  const QString before = two->Result();
+  two->Add({"1", "1", "1"});
+  ProgressBox::patienceMs = 0;
+  bool cancelled = false;
+  QTimer::singleShot(0, this, [&] {
+    auto* const box = two->screen->findChild<QDialog*>(QStringLiteral("Progress"));
+    box->findChild<QPushButton*>(QStringLiteral("Cancel"))->click();
+    cancelled = true;
+  });
+  two->Press(key);
+  ProgressBox::patienceMs = 200;
+  QVERIFY(cancelled);
+  QCOMPARE(two->Result(), before);
+  QVERIFY(!two->screen->findChild<GraphViewDialog*>());
+  // What was stopped is done when it is asked for again.
+  two->Press("ΣX");
+  QCOMPARE(two->Result(), QStringLiteral("150,001"));
 }
 
 void StatisticsResultsTest::PlotsTheCurveAndTheData_data() {

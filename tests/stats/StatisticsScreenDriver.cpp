@@ -13,8 +13,9 @@
 
 namespace vexa::test {
 
-StatisticsScreenDriver::StatisticsScreenDriver(Mode mode, QSize size)
+StatisticsScreenDriver::StatisticsScreenDriver(Mode mode, QSize size, const QString& folder)
     : window(std::make_unique<QWidget>()) {
+  store.folder = folder.toStdString();
   window->resize(size);
   screen = mode == Mode::OneVarStatistics
                ? static_cast<ModeScreen*>(new OneVarScreen(store, window.get()))
@@ -108,6 +109,11 @@ bool StatisticsScreenDriver::TotalIsShown() const {
 
 QString StatisticsScreenDriver::Result() const {
   return screen->findChild<QPlainTextEdit*>(QStringLiteral("Result"))->toPlainText();
+}
+
+QString StatisticsScreenDriver::Notice() const {
+  const auto* const notice = screen->findChild<QLabel*>(QStringLiteral("Notice"));
+  return notice->isVisible() ? notice->text() : QString();
 }
 
 QMessageBox* StatisticsScreenDriver::Box() const {

@@ -19,7 +19,8 @@ namespace vexa::test {
 /// boxes, reads what is shown.
 class StatisticsScreenDriver {
  public:
-  explicit StatisticsScreenDriver(Mode mode, QSize size = {340, 560});
+  /// `folder` is where files beside the settings go; none: there are none.
+  explicit StatisticsScreenDriver(Mode mode, QSize size = {340, 560}, const QString& folder = {});
   ~StatisticsScreenDriver();
 
   /// Makes this window the one with the focus.
@@ -46,6 +47,8 @@ class StatisticsScreenDriver {
   QString Total() const { return screen->findChild<QLabel*>(QStringLiteral("Total"))->text(); }
   bool TotalIsShown() const;
   QString Result() const;
+  /// What the quiet line says; empty: it is hidden.
+  QString Notice() const;
 
   /// The box that waits for an answer, or null.
   QMessageBox* Box() const;

@@ -57,6 +57,20 @@ void EnterRows(const ModeScreen* screen) {
   }
 }
 
+void SayWhatIsShown(const ModeScreen* screen) {
+  const auto* const table = screen->findChild<QTableView*>();
+  const auto* const total = screen->findChild<QLabel*>(QStringLiteral("Total"));
+  Say(qPrintable(
+      QStringLiteral("%1 rows, total %2").arg(table->model()->rowCount()).arg(total->text())));
+}
+
+void Restore(const ModeScreen* screen) {
+  auto* const key = screen->findChild<QAbstractButton*>(QStringLiteral("Restore"));
+  if (!key->isVisible()) return Say("nothing to restore");
+  key->click();
+  SayWhatIsShown(screen);
+}
+
 void Load(const ModeScreen* screen, const QString& path) {
   // The progress is shown at once.
   ProgressBox::patienceMs = 0;
@@ -65,10 +79,7 @@ void Load(const ModeScreen* screen, const QString& path) {
   screen->findChild<QAbstractButton*>(QStringLiteral("Load"))->click();
   // A signal that came meanwhile stopped it.
   if (!screen->isVisible()) return;
-  const auto* const table = screen->findChild<QTableView*>();
-  const auto* const total = screen->findChild<QLabel*>(QStringLiteral("Total"));
-  Say(qPrintable(
-      QStringLiteral("%1 rows, total %2").arg(table->model()->rowCount()).arg(total->text())));
+  SayWhatIsShown(screen);
 }
 
 void Use() {
@@ -79,6 +90,7 @@ void Use() {
   }
   screen->findChild<QWidget*>(QStringLiteral("X"))->setFocus();
   if (!Wish("VEXA_TEST_LOAD").isEmpty()) return Load(screen, Wish("VEXA_TEST_LOAD"));
+  if (Wish("VEXA_TEST_DO") == QStringLiteral("restore")) return Restore(screen);
   EnterRows(screen);
   if (!Wish("VEXA_TEST_SAVE").isEmpty()) file_dialogs::AddNextAnswer(Wish("VEXA_TEST_SAVE"));
   if (Wish("VEXA_TEST_DO") == QStringLiteral("exit")) {
