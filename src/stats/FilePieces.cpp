@@ -25,6 +25,11 @@ FileOutcome Refusal(const QFileInfo& path) {
   return {};
 }
 
+/// The toolkit does not always know why a write failed; the system does.
+FileOutcome WritingFailed(const QSaveFile& file) {
+  return errno != 0 ? FailedFor(errno) : vexa::FailedFor(file.errorString());
+}
+
 }  // namespace
 
 FileOutcome FailedFor(const QString& reason) {
@@ -70,11 +75,13 @@ FileOutcome WritePieces(const QString& path, FileAccess access, const ProgressWa
     bytes.clear();
     given = give(bytes);
     const auto size = static_cast<qint64>(bytes.size());
-    if (file.write(bytes.data(), size) != size) return FailedFor(file.errorString());
+    errno = 0;
+    if (file.write(bytes.data(), size) != size) return WritingFailed(file);
     // What was written goes with the object; the file that was there stays.
     if (!watcher(given)) return {FileEnd::Stopped};
   }
-  return file.commit() ? FileOutcome{} : FailedFor(file.errorString());
+  errno = 0;
+  return file.commit() ? FileOutcome{} : WritingFailed(file);
 } catch (const std::bad_alloc&) {
   return FailedFor(ENOMEM);
 }
