@@ -14,6 +14,9 @@ constexpr std::wstring_view kFull = L"Maximum of graph equation is";
 constexpr std::wstring_view kAdded = L" is added already.";
 constexpr std::wstring_view kNothingToPlot = L"Please, Add a graph equation.";
 
+constexpr std::wstring_view kNotListed = L"The field's text is not in the list: A adds it.";
+constexpr std::wstring_view kNoRoomInList = L"The field's text is not in the list, which is full.";
+
 constexpr ShorteningRule kAddedText{.longest = 17, .kept = 14};
 
 constexpr HistoryKind kHistory{.capacity = PlotFunctions::kHistoryCapacity,
@@ -28,6 +31,12 @@ constexpr std::array<settings::TextSetting, kRangeBoxCaptions.size()> kRangeSett
 /// Any stored angle type but degrees is radians.
 AngleType AngleOf(int stored) {
   return stored == static_cast<int>(AngleType::Degrees) ? AngleType::Degrees : AngleType::Radians;
+}
+
+std::wstring WithoutBlanks(std::wstring_view text) {
+  std::wstring kept(text);
+  std::erase(kept, L' ');
+  return kept;
 }
 
 PlotterOutcome Refusal(std::wstring sentence) {
@@ -65,8 +74,7 @@ std::wstring PlotFunctions::Parse(std::size_t position, const std::wstring& text
 }
 
 PlotterOutcome PlotFunctions::Add(std::wstring_view fieldText) {
-  std::wstring text(fieldText);
-  std::erase(text, L' ');
+  std::wstring text = WithoutBlanks(fieldText);
   if (text.empty()) return Refusal(std::wstring(kNoText));
   // Also a text that is refused below can be recalled and mended.
   history.AddHistory(text);
@@ -88,6 +96,13 @@ void PlotFunctions::DeleteSelected() {
   selected = std::min(std::max(selected - 1, 0), Count() - 1);
 }
 
+std::wstring PlotFunctions::FieldNotice(std::wstring_view fieldText) const {
+  const std::wstring text = WithoutBlanks(fieldText);
+  const bool isListed = std::ranges::find(functions, text) != functions.end();
+  if (text.empty() || functions.empty() || isListed) return {};
+  return std::wstring(CanAdd() ? kNotListed : kNoRoomInList);
+}
+
 void PlotFunctions::ToggleAngle() {
   angleType = angleType == AngleType::Degrees ? AngleType::Radians : AngleType::Degrees;
 }
@@ -95,9 +110,7 @@ void PlotFunctions::ToggleAngle() {
 PlotterOutcome PlotFunctions::Plot(std::wstring_view fieldText, const RangeTexts& texts,
                                    const PlotOptions& options, GraphData& graph) {
   const RangeReading reading = ReadRanges(texts);
-  if (!reading.sentence.empty()) {
-    return {.sentence = reading.sentence, .boxAtFault = reading.boxAtFault};
-  }
+  if (!reading.sentence.empty()) return Refusal(reading.sentence);
   PlotterOutcome outcome;
   if (functions.empty()) {
     if (fieldText.empty()) return Refusal(std::wstring(kNothingToPlot));

@@ -20,8 +20,6 @@ inline constexpr std::wstring_view kDeleteFunctionQuestion =
 struct PlotterOutcome {
   /// The sentence of a refusal; empty: success.
   std::wstring sentence{};
-  /// The box that the sentence is about; none: the function field.
-  std::optional<RangeBox> boxAtFault{};
   /// What the function field holds from now on; none: what it holds.
   std::optional<std::wstring> fieldText{};
 };
@@ -35,8 +33,9 @@ class PlotFunctions {
 
   /// Reads everything. `settingsStore` must outlive the object.
   explicit PlotFunctions(SettingsStore& settingsStore);
-  /// Writes functions, ranges as typed, and history; nothing when a range is no number. The angle
-  /// type is only read here.
+  /// Writes functions, ranges as typed, and history; nothing when a range is no number. To be
+  /// called after every change, so that nobody reads what is older than what the user sees. The
+  /// angle type is only read here.
   void Save(const RangeTexts& texts) const;
 
   /// "A": takes the field's text, without its blanks, as a further function.
@@ -48,6 +47,10 @@ class PlotFunctions {
   /// "Plot": fills `graph`, or says why not.
   PlotterOutcome Plot(std::wstring_view fieldText, const RangeTexts& texts,
                       const PlotOptions& options, GraphData& graph);
+
+  /// A quiet word on a field's text that Plot would leave out, because functions are held and it is
+  /// none of them; empty: there is nothing to say.
+  std::wstring FieldNotice(std::wstring_view fieldText) const;
 
   int Count() const { return static_cast<int>(functions.size()); }
   const std::wstring& At(int index) const { return functions[static_cast<std::size_t>(index)]; }

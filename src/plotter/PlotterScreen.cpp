@@ -18,6 +18,7 @@
 #include "plotter/ColourIcon.h"
 #include "plotter/GraphFunction.h"
 #include "plotter/GraphViewDialog.h"
+#include "plotter/NoticeLine.h"
 #include "plotter/PlotterKeypad.h"
 #include "plotter/RangeForm.h"
 #include "toolkit/EditLine.h"
@@ -52,15 +53,22 @@ PlotterScreen::PlotterScreen(SettingsStore& settingsStore, QWidget* parent)
     : ExpressionScreen(Mode::FunctionPlotter, PlotterKeys(), parent),
       store(settingsStore),
       functions(settingsStore),
+      notice(new NoticeLine(this)),
       list(new TouchComboBox(this)),
       lastFocused(Line()) {
   Line()->setObjectName(QStringLiteral("Function"));
   Line()->setAccessibleName(QStringLiteral("Function"));
   Line()->setMinimumHeight(kLeastFieldHeight);
-  Content()->addWidget(Line(), kFieldShare);
+  auto* const field = new QVBoxLayout;
+  field->setSpacing(0);
+  field->addWidget(Line(), 1);
+  field->addWidget(notice);
+  Content()->addLayout(field, kFieldShare);
+  connect(Line(), &EditLine::textChanged, this, &PlotterScreen::ShowNotice);
   BuildList();
   form = new RangeForm(kLeastBoxHeight, this);
   form->SetTexts(functions.StoredRanges());
+  connect(form, &RangeForm::RangesChanged, this, &PlotterScreen::Save);
   Content()->addWidget(form, kFormShare);
   PlaceKeypad(kKeypadShare);
 
@@ -74,6 +82,10 @@ PlotterScreen::PlotterScreen(SettingsStore& settingsStore, QWidget* parent)
 PlotterScreen::~PlotterScreen() {
   // The focus leaves the boxes when they go.
   qApp->disconnect(this);
+  Save();
+}
+
+void PlotterScreen::Save() {
   functions.Save(form->Texts());
 }
 
@@ -137,16 +149,20 @@ void PlotterScreen::Refresh() {
   addButton->setEnabled(functions.CanAdd());
   deleteButton->setEnabled(functions.CanDelete());
   RefreshKeypad();
+  ShowNotice();
+}
+
+void PlotterScreen::ShowNotice() {
+  notice->ShowText(FromWide(functions.FieldNotice(Line()->Text())));
 }
 
 bool PlotterScreen::Show(const PlotterOutcome& outcome) {
   if (outcome.fieldText) Line()->ReplaceText(*outcome.fieldText);
+  Save();
   Refresh();
   Line()->setFocus();
   if (outcome.sentence.empty()) return true;
-  QWidget* const fault =
-      outcome.boxAtFault ? form->Box(*outcome.boxAtFault) : static_cast<QWidget*>(Line());
-  ShowErrorBox(this, outcome.sentence, [fault] { fault->setFocus(); });
+  ShowErrorBox(this, outcome.sentence, [this] { Line()->setFocus(); });
   return false;
 }
 
@@ -157,6 +173,7 @@ void PlotterScreen::Add() {
 void PlotterScreen::Delete() {
   AskYesNo(this, std::wstring(kDeleteFunctionQuestion), [this] {
     functions.DeleteSelected();
+    Save();
     Refresh();
     Line()->setFocus();
   });

@@ -8,6 +8,7 @@ class QPushButton;
 
 namespace vexa {
 
+class NoticeLine;
 class RangeForm;
 class TouchComboBox;
 
@@ -39,7 +40,11 @@ class PlotterScreen : public ExpressionScreen {
   void FollowFocus();
   /// Shows list, buttons and keys as the rules say.
   void Refresh();
-  /// Shows what a command decided; true: it succeeded.
+  /// Stores what the user sees.
+  void Save();
+  /// Says what becomes of the field's text.
+  void ShowNotice();
+  /// Shows and stores what a command decided; true: it succeeded.
   bool Show(const PlotterOutcome& outcome);
 
   void Add();
@@ -56,6 +61,7 @@ class PlotterScreen : public ExpressionScreen {
 
   SettingsStore& store;
   PlotFunctions functions;
+  NoticeLine* notice;
   TouchComboBox* list;
   QPushButton* addButton = nullptr;
   QPushButton* deleteButton = nullptr;

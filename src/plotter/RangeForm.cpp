@@ -62,6 +62,7 @@ void RangeForm::BuildBoxes(QGridLayout* grid, int leastHeight) {
     boxes[i]->setMinimumWidth(0);
     GrowToTouchHeight(boxes[i], leastHeight);
     new KeyboardOnFocus(boxes[i]);
+    connect(boxes[i], &QLineEdit::textChanged, this, &RangeForm::RangesChanged);
     label->setBuddy(boxes[i]);
     const int row = static_cast<int>(i) / kBoxesInRow;
     const int column = static_cast<int>(i) % kBoxesInRow * 2;

@@ -26,6 +26,10 @@ class RangeForm : public QWidget {
   QLineEdit* Box(RangeBox box) const { return boxes[static_cast<std::size_t>(box)]; }
   const std::array<QLineEdit*, kRangeBoxCaptions.size()>& Boxes() const { return boxes; }
 
+ signals:
+  /// The text of a box changed.
+  void RangesChanged();
+
  private:
   void BuildBoxes(QGridLayout* grid, int leastHeight);
 

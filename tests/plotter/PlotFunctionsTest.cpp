@@ -229,7 +229,21 @@ TEST_F(PlotFunctionsTest, PlotReadsTheBoxesFirst) {
   PlotFunctions plotter = Opened();
   const PlotterOutcome outcome = Plot(plotter, L"", {L"1", L"x", L"1", L"1"});
   EXPECT_EQ(outcome.sentence, L"Please enter a number.");
-  EXPECT_EQ(outcome.boxAtFault, RangeBox::XMax);
+}
+
+TEST_F(PlotFunctionsTest, ATextThatPlotLeavesOutIsNoticed) {
+  PlotFunctions plotter = Opened();
+  EXPECT_EQ(plotter.FieldNotice(L"x^2"), L"") << "Plot adds it to an empty list";
+  for (const wchar_t* text : {L"x", L"x+1", L"x+2"}) {
+    plotter.Add(text);
+    EXPECT_EQ(plotter.FieldNotice(L""), L"");
+    EXPECT_EQ(plotter.FieldNotice(L" "), L"");
+    EXPECT_EQ(plotter.FieldNotice(text), L"");
+  }
+  EXPECT_EQ(plotter.FieldNotice(L"x + 1"), L"") << "blanks do not count";
+  EXPECT_EQ(plotter.FieldNotice(L"x^2"), L"The field's text is not in the list, which is full.");
+  plotter.DeleteSelected();
+  EXPECT_EQ(plotter.FieldNotice(L"x^2"), L"The field's text is not in the list: A adds it.");
 }
 
 TEST_F(PlotFunctionsTest, PlotNeedsAFunction) {
@@ -285,7 +299,6 @@ TEST_F(PlotFunctionsTest, PlotShowsTheFirstFunctionThatFails) {
     const PlotterOutcome outcome = Plot(plotter, L"typed");
     EXPECT_EQ(outcome.sentence, sentence);
     EXPECT_EQ(outcome.fieldText, text);
-    EXPECT_FALSE(outcome.boxAtFault);
     EXPECT_EQ(plotter.Selected(), 1);
   }
 }

@@ -45,9 +45,10 @@ class PlotterScreenTest : public QObject {
   void ChoosingInTheOpenListGoesOnInTheField();
   void ListsShowTheFrontOfALongFunction();
   void PbListsTheNewestFirst();
+  void PbListsEmptyEntriesToo();
   void PlotOpensTheGraph();
   void EnterPlots();
-  void PlotSaysWhichBoxIsNoNumber();
+  void PlotSaysThatABoxIsNoNumber();
   void PlotShowsTheFunctionThatFails();
   void MemoryGoesToTheBoxThatHadTheFocus();
   void MacroWithoutMacrosOpensTheEditor();
@@ -55,7 +56,10 @@ class PlotterScreenTest : public QObject {
   void ConfigIsStoredAtOnce();
   void CutCopyPaste();
   void EverythingIsSavedAtTheEnd();
-  void NothingIsSavedWhenABoxIsNoNumber();
+  void NothingIsSavedWhileABoxIsNoNumber();
+  void EveryChangeIsStoredAtOnce();
+  void ATextThatPlotLeavesOutIsNoticed();
+  void TheAngleTypeIsOnlyRead();
   void AHostileStoreIsHarmless();
   void TargetsAreLargeEnough();
   void EverythingFitsAtTheSmallestSize();
@@ -152,7 +156,9 @@ void PlotterScreenTest::EveryControlHasAName() {
                            "Grid", "Line", "Coordinates"}) {
     QVERIFY2(Control(name) && !Control(name)->accessibleName().isEmpty(), name);
   }
-  for (const QLabel* label : screen->findChildren<QLabel*>()) QVERIFY(label->buddy());
+  for (const QLabel* label : screen->findChildren<QLabel*>()) {
+    QVERIFY(label->buddy() || label->objectName() == QStringLiteral("Notice"));
+  }
 }
 
 void PlotterScreenTest::KeysTypeAFunction() {
@@ -322,6 +328,24 @@ void PlotterScreenTest::PbListsTheNewestFirst() {
   QCOMPARE(Field(), QStringLiteral("2*x+123456789012"));
 }
 
+void PlotterScreenTest::PbListsEmptyEntriesToo() {
+  screen.reset();
+  Write(*store, settings::kGrapHistoryCount, 3);
+  Write(*store, settings::kGrapHistory, 1, L"x");
+  Write(*store, settings::kGrapHistory, 3, L"x+1");
+  Open();
+  PressKey("PB");
+  QMenu* const menu = OpenWindow<QMenu>(screen.get());
+  QVERIFY(menu);
+  QStringList entries;
+  for (const QAction* action : menu->actions()) {
+    QVERIFY(!action->isSeparator() && action->isEnabled());
+    entries << action->text();
+  }
+  QCOMPARE(entries, QStringList({"x+1", "(empty)", "x"}));
+  menu->close();
+}
+
 void PlotterScreenTest::PlotOpensTheGraph() {
   PressKey("DEG");
   Type(Box("Y max"), QStringLiteral("5"));
@@ -355,12 +379,13 @@ void PlotterScreenTest::EnterPlots() {
   }
 }
 
-void PlotterScreenTest::PlotSaysWhichBoxIsNoNumber() {
+void PlotterScreenTest::PlotSaysThatABoxIsNoNumber() {
   SetField(QStringLiteral("x"));
   Type(Box("Y min"), QStringLiteral("-"));
   PressKey("Plot");
   QCOMPARE(Answer(screen.get()), QStringLiteral("Please enter a number."));
-  QTRY_VERIFY(Box("Y min")->hasFocus());
+  QTRY_VERIFY(field->hasFocus());
+  QCOMPARE(Box("Y min")->text(), QStringLiteral("-"));
   Type(Box("Y min"), QStringLiteral("10"));
   PressKey("Plot");
   QCOMPARE(Answer(screen.get()),
@@ -477,13 +502,62 @@ void PlotterScreenTest::EverythingIsSavedAtTheEnd() {
   QCOMPARE(Read(*store, settings::kAngleType), 1);
 }
 
-void PlotterScreenTest::NothingIsSavedWhenABoxIsNoNumber() {
+void PlotterScreenTest::NothingIsSavedWhileABoxIsNoNumber() {
+  Type(Box("X min"), QStringLiteral("abc"));
   SetField(QStringLiteral("x"));
   PressKey("A");
-  Type(Box("X min"), QStringLiteral("abc"));
+  Type(Box("X max"), QStringLiteral("20"));
   screen.reset();
   QCOMPARE(Read(*store, settings::kFunctionCount), 0);
   QCOMPARE(Read(*store, settings::kGrapHistoryCount), 0);
+  QCOMPARE(FromWide(Read(*store, settings::kXMax)), QStringLiteral("10"));
+}
+
+void PlotterScreenTest::EveryChangeIsStoredAtOnce() {
+  SetField(QStringLiteral("x"));
+  PressKey("A");
+  QCOMPARE(Read(*store, settings::kFunctionCount), 1);
+  QCOMPARE(FromWide(Read(*store, settings::kFunction, 0)), QStringLiteral("x"));
+  QCOMPARE(Read(*store, settings::kGrapHistoryCount), 1);
+  SetField(QStringLiteral("y"));
+  PressKey("A");
+  Answer(screen.get());
+  QCOMPARE(FromWide(Read(*store, settings::kGrapHistory, 2)), QStringLiteral("y"));
+  Type(Box("Y max"), QStringLiteral("2.50"));
+  QCOMPARE(FromWide(Read(*store, settings::kYMax)), QStringLiteral("2.50"));
+  // As assistive technology sets a text: without a key.
+  Box("X max")->setText(QStringLiteral("1e3"));
+  QCOMPARE(FromWide(Read(*store, settings::kXMax)), QStringLiteral("1e3"));
+  PressKey("D");
+  Answer(screen.get(), QMessageBox::Yes);
+  QCOMPARE(Read(*store, settings::kFunctionCount), 0);
+}
+
+void PlotterScreenTest::ATextThatPlotLeavesOutIsNoticed() {
+  auto* const notice = screen->findChild<QLabel*>(QStringLiteral("Notice"));
+  QVERIFY(notice);
+  SetField(QStringLiteral("x"));
+  QVERIFY(!notice->isVisible());
+  PressKey("A");
+  QVERIFY(!notice->isVisible());
+  QTest::keyClicks(field, QStringLiteral("x+1"));
+  QVERIFY(notice->isVisible());
+  QCOMPARE(notice->text(), QStringLiteral("The field's text is not in the list: A adds it."));
+  QVERIFY(notice->y() >= field->geometry().bottom());
+  QVERIFY(notice->y() < List()->y());
+  PressKey("A");
+  QVERIFY(!notice->isVisible());
+  List()->setFocus();
+  QTest::keyClick(List(), Qt::Key_Up);
+  QCOMPARE(Field(), QStringLiteral("x"));
+  QVERIFY(!notice->isVisible());
+}
+
+void PlotterScreenTest::TheAngleTypeIsOnlyRead() {
+  PressKey("DEG");
+  QCOMPARE(Read(*store, settings::kAngleType), 1);
+  screen.reset();
+  QCOMPARE(Read(*store, settings::kAngleType), 1);
 }
 
 void PlotterScreenTest::AHostileStoreIsHarmless() {
@@ -522,7 +596,11 @@ void PlotterScreenTest::EverythingFitsAtTheSmallestSize() {
     if (isTarget && control->isVisible()) shown << control;
   }
   QVERIFY(shown.size() > 50);
+  SetField(QStringLiteral("x"));
+  PressKey("A");
   SetField(QStringLiteral("x+1"));
+  QTest::qWait(1);
+  QCOMPARE(screen->size(), QSize(240, 320));
   QVERIFY2(!field->verticalScrollBar()->isVisible(), "a row has room");
   for (const QWidget* control : shown) {
     const QRect place(control->mapTo(screen.get(), QPoint()), control->size());
