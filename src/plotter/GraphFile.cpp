@@ -58,11 +58,14 @@ std::span<const GraphFormat> GraphFormats() {
   return kFormats;
 }
 
-bool SaveGraph(const GraphModel& graph, const QString& path) {
+QString SaveGraph(const GraphModel& graph, const QString& path) {
   const QByteArray bytes = FormatOf(path).write(graph);
+  if (bytes.isEmpty()) return QStringLiteral("There is no room for the picture");
   QSaveFile file(path);
-  if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly)) return false;
-  return file.write(bytes) == bytes.size() && file.commit();
+  if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+  // A write that failed fails the commit, too.
+  file.write(bytes);
+  return file.commit() ? QString() : file.errorString();
 }
 
 }  // namespace vexa

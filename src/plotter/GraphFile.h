@@ -20,7 +20,8 @@ struct GraphFormat {
 std::span<const GraphFormat> GraphFormats();
 
 /// Writes the picture of `graph` to the file at `path`, in the format that its suffix names, else
-/// the first one. The file is replaced whole, or left as it was: then the result is false.
-bool SaveGraph(const GraphModel& graph, const QString& path);
+/// the first one. The file is replaced whole, or left as it was: then the result is the system's
+/// reason. Empty: success.
+QString SaveGraph(const GraphModel& graph, const QString& path);
 
 }  // namespace vexa

@@ -1,8 +1,11 @@
 #include "plotter/GraphModel.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "display/FormatResult.h"
+#include "engine/EngineErrors.h"
 #include "plotter/GraphMapping.h"
 #include "toolkit/NumberBox.h"
 
@@ -10,6 +13,9 @@ namespace vexa {
 namespace {
 
 constexpr double kMoveShare = 0.2;
+/// What a step of ZoomAt leaves of a range's width: as much as Zoom In and Zoom Out do.
+constexpr double kZoomInShare = 1 - 2 * kMoveShare;
+constexpr double kZoomOutShare = 1 + 2 * kMoveShare;
 
 constexpr std::wstring_view kFunctionLetters = L"RGB";
 constexpr std::wstring_view kNoValue = L"Out of range";
@@ -20,11 +26,15 @@ double Moved(double bound, int moves, double step) {
   return moves == 0 ? bound : bound + moves * step;
 }
 
-/// Of an infinite range, too: a bound that is no number equals nothing.
 std::wstring_view EmptyRange(const PlotRanges& ranges) {
   if (ranges.xMin == ranges.xMax) return kEmptyXRange;
   if (ranges.yMin == ranges.yMax) return kEmptyYRange;
   return {};
+}
+
+bool IsFinite(const PlotRanges& ranges) {
+  return std::isfinite(ranges.xMin) && std::isfinite(ranges.xMax) && std::isfinite(ranges.yMin) &&
+         std::isfinite(ranges.yMax);
 }
 
 }  // namespace
@@ -63,6 +73,7 @@ std::wstring GraphModel::MoveDown() {
 
 void GraphModel::BeginCommand() {
   RemoveRubberBand();
+  zoomedAt = false;
   lastError.clear();
 }
 
@@ -74,19 +85,34 @@ std::wstring GraphModel::Change(const BoundMoves& moves) {
                    Moved(ranges.yMin, moves.yMin, yStep), Moved(ranges.yMax, moves.yMax, yStep)});
 }
 
-std::wstring GraphModel::ChangeTo(const PlotRanges& wanted) {
+std::wstring GraphModel::ZoomAt(PixelPoint point, int steps) {
+  const bool goesOn = zoomedAt;
+  BeginCommand();
+  const double x = std::clamp(graph_mapping::XAt(point.x, ranges), ranges.xMin, ranges.xMax);
+  const double y = std::clamp(graph_mapping::YAt(point.y, ranges), ranges.yMin, ranges.yMax);
+  const double share = std::pow(steps > 0 ? kZoomInShare : kZoomOutShare, std::abs(steps));
+  std::wstring sentence = ChangeTo({x - (x - ranges.xMin) * share, x + (ranges.xMax - x) * share,
+                                    y - (y - ranges.yMin) * share, y + (ranges.yMax - y) * share},
+                                   goesOn);
+  zoomedAt = goesOn || sentence.empty();
+  return sentence;
+}
+
+std::wstring GraphModel::ChangeTo(const PlotRanges& wanted, bool goesOn) {
   if (const std::wstring_view refusal = EmptyRange(wanted); !refusal.empty()) {
     return std::wstring(refusal);
   }
   const PlotRanges before = ranges;
   std::wstring sentence = Show(wanted);
   if (!sentence.empty()) return sentence;
-  previous = before;
+  if (!goesOn) previous = before;
   atHome = false;
   return {};
 }
 
 std::wstring GraphModel::Show(const PlotRanges& wanted) {
+  // Labels would say so, but they may be off.
+  if (!IsFinite(wanted)) return lastError = kOutOfRangeText;
   if (options.coordinates) {
     std::vector<std::wstring> texts = LabelsOf(wanted);
     if (!lastError.empty()) return lastError;

@@ -32,6 +32,9 @@ class GraphModel {
   GraphModel(GraphData graph, DisplayType type, int decimals);
 
   // Commands on the ranges.
+  /// Zooms about the values at `point`, which stay where they are: in for `steps` above 0, out
+  /// below. One that follows on another belongs to it: Undo takes back both.
+  std::wstring ZoomAt(PixelPoint point, int steps);
   std::wstring ZoomIn();
   std::wstring ZoomOut();
   std::wstring MoveLeft();
@@ -95,8 +98,9 @@ class GraphModel {
   };
   void BeginCommand();
   std::wstring Change(const BoundMoves& moves);
-  /// Changes to `wanted` and remembers the ranges before.
-  std::wstring ChangeTo(const PlotRanges& wanted);
+  /// Changes to `wanted` and remembers the ranges before, unless the command only `goesOn` with
+  /// the last one.
+  std::wstring ChangeTo(const PlotRanges& wanted, bool goesOn = false);
   /// Shows `wanted`, or returns why not.
   std::wstring Show(const PlotRanges& wanted);
   void Sample();
@@ -108,6 +112,8 @@ class GraphModel {
   PlotRanges previous;
   PlotOptions options;
   bool atHome = true;
+  /// The last command was ZoomAt, and zoomed.
+  bool zoomedAt = false;
   SampledGraph samples;
   std::vector<std::wstring> labels;
 

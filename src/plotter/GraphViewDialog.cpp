@@ -2,7 +2,9 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QFileInfo>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -33,6 +35,7 @@ namespace vexa {
 namespace {
 
 constexpr QSize kOpeningSize(400, 520);
+constexpr const char* kUsualFileName = "graph";
 /// Leaves the room of the row to the number.
 constexpr int kCalWidth = 56;
 
@@ -65,6 +68,7 @@ GraphModel NewModel(const SettingsStore& store, GraphData graph) {
 GraphViewDialog::GraphViewDialog(SettingsStore& settingsStore, GraphData shown, QWidget* parent)
     : Dialog(QStringLiteral("GraphView"), parent),
       store(settingsStore),
+      fileName(QString::fromLatin1(kUsualFileName)),
       graph(NewModel(settingsStore, std::move(shown))),
       functionList(new TouchComboBox(this)),
       readOutList(new TouchComboBox(this)),
@@ -82,6 +86,7 @@ GraphViewDialog::GraphViewDialog(SettingsStore& settingsStore, GraphData shown, 
   connect(view, &PlotView::PenPressed, this, &GraphViewDialog::PressPen);
   connect(view, &PlotView::PenMoved, this, &GraphViewDialog::MovePen);
   connect(view, &PlotView::PenReleased, this, &GraphViewDialog::ReleasePen);
+  connect(view, &PlotView::PenLost, this, &GraphViewDialog::RemoveRubberBand);
   connect(view, &PlotView::WheelTurned, this, &GraphViewDialog::TurnWheel);
 }
 
@@ -126,9 +131,11 @@ void GraphViewDialog::BuildReading() {
   traceCheck->setAccessibleName(QStringLiteral("Trace"));
   traceCheck->setMinimumHeight(kTouchHeight);
   row->addWidget(traceCheck);
-  connect(xBox, &QLineEdit::textEdited, this,
+  // However the text and the check came about: assistive technology sets them without a key.
+  connect(xBox, &QLineEdit::textChanged, this,
           [this](const QString& text) { graph.xBox = text.toStdWString(); });
-  connect(traceCheck, &QCheckBox::clicked, this, &GraphViewDialog::ToggleTrace);
+  connect(traceCheck, &QCheckBox::toggled, this, &GraphViewDialog::ToggleTrace);
+  setTabOrder(cal, traceCheck);
 }
 
 void GraphViewDialog::BuildButtons() {
@@ -169,6 +176,7 @@ void GraphViewDialog::Refresh() {
     xBox->setText(FromWide(graph.xBox));
     xBox->setCursorPosition(0);
   }
+  const QSignalBlocker traceBlocker(traceCheck);
   traceCheck->setChecked(graph.IsTracing());
 }
 
@@ -209,10 +217,8 @@ void GraphViewDialog::ReleasePen(PixelPoint point) {
   Show(sentence, view);
 }
 
-void GraphViewDialog::TurnWheel(int steps) {
-  const auto command = steps > 0 ? &GraphModel::ZoomIn : &GraphModel::ZoomOut;
-  std::wstring sentence;
-  for (int n = 0; n < std::abs(steps) && sentence.empty(); ++n) sentence = (graph.*command)();
+void GraphViewDialog::TurnWheel(PixelPoint point, int steps) {
+  const std::wstring sentence = graph.ZoomAt(point, steps);
   view->ShowGraph();
   Show(sentence, view);
 }
@@ -244,6 +250,11 @@ void GraphViewDialog::RemoveRubberBand() {
   view->ShowDrag();
 }
 
+void GraphViewDialog::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && view->IsPenDown()) return view->DropPen();
+  Dialog::keyPressEvent(event);
+}
+
 void GraphViewDialog::EditOptions() {
   RemoveRubberBand();
   auto* const dialog = new PlotterOptionsDialog(graph.Ranges(), graph.Options(), this);
@@ -270,18 +281,20 @@ void GraphViewDialog::Configure() {
 
 void GraphViewDialog::Save() {
   RemoveRubberBand();
-  std::vector<file_dialogs::FileKind> kinds;
+  file_dialogs::SaveOffer offer{QStringLiteral("Save Graph"), fileName, {}};
   for (const GraphFormat& format : GraphFormats()) {
-    kinds.push_back({QString::fromLatin1(format.filter), QString::fromLatin1(format.suffix)});
+    offer.kinds.push_back({QString::fromLatin1(format.filter), QString::fromLatin1(format.suffix)});
   }
-  file_dialogs::AskForFileToSave(this, kinds, [this](const file_dialogs::Answer& path) {
+  file_dialogs::AskForFileToSave(this, offer, [this](const file_dialogs::Answer& path) {
     if (path) SaveAs(*path);
   });
 }
 
 void GraphViewDialog::SaveAs(const QString& path) {
-  if (SaveGraph(graph, path)) return;
-  ShowErrorBox(this, std::wstring(file_dialogs::kFileError), [this] { view->setFocus(); });
+  const QString reason = SaveGraph(graph, path);
+  fileName = reason.isEmpty() ? QString::fromLatin1(kUsualFileName) : QFileInfo(path).fileName();
+  if (reason.isEmpty()) return;
+  file_dialogs::ShowFileError(this, path, reason, [this] { view->setFocus(); });
 }
 
 }  // namespace vexa

@@ -25,6 +25,10 @@ class GraphViewDialog : public Dialog {
 
   const GraphModel& Graph() const { return graph; }
 
+ protected:
+  /// Escape drops a drag first.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void BuildMenus();
   void BuildLists();
@@ -42,7 +46,7 @@ class GraphViewDialog : public Dialog {
   void PressPen(PixelPoint point);
   void MovePen(PixelPoint point);
   void ReleasePen(PixelPoint point);
-  void TurnWheel(int steps);
+  void TurnWheel(PixelPoint point, int steps);
   void Cal();
   void ToggleTrace();
   void SelectFunction(int index);
@@ -54,6 +58,8 @@ class GraphViewDialog : public Dialog {
   void SaveAs(const QString& path);
 
   SettingsStore& store;
+  /// The name that the file dialog proposes: one that was tried and failed, else the usual one.
+  QString fileName;
   GraphModel graph;
   TouchComboBox* functionList;
   TouchComboBox* readOutList;

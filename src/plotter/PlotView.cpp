@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "plotter/GraphImage.h"
 #include "plotter/PlotArea.h"
@@ -41,6 +42,8 @@ PlotView::PlotView(const GraphModel& shownGraph, QWidget* parent)
   setMinimumSize(kPictureWidth / 2, kPictureHeight / 2);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setCursor(Qt::CrossCursor);
+  // A pen that comes back without its button down was released elsewhere.
+  setMouseTracking(true);
 }
 
 QSize PlotView::sizeHint() const {
@@ -116,8 +119,7 @@ void PlotView::mousePressEvent(QMouseEvent* event) {
 }
 
 void PlotView::mouseMoveEvent(QMouseEvent* event) {
-  // A message box may have taken the end of the drag.
-  if (!(event->buttons() & Qt::LeftButton)) penIsDown = false;
+  if (!(event->buttons() & Qt::LeftButton)) DropPen();
   if (penIsDown) emit PenMoved(PixelAt(event->position()));
 }
 
@@ -127,12 +129,22 @@ void PlotView::mouseReleaseEvent(QMouseEvent* event) {
   emit PenReleased(PixelAt(event->position()));
 }
 
+void PlotView::DropPen() {
+  if (std::exchange(penIsDown, false)) emit PenLost();
+}
+
+bool PlotView::event(QEvent* event) {
+  // What covers the graph takes the end of the drag.
+  if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::Hide) DropPen();
+  return QWidget::event(event);
+}
+
 void PlotView::wheelEvent(QWheelEvent* event) {
   event->accept();
   wheelAngle += event->angleDelta().y();
   const int steps = wheelAngle / kWheelStep;
   wheelAngle %= kWheelStep;
-  if (steps != 0) emit WheelTurned(steps);
+  if (steps != 0) emit WheelTurned(PixelAt(event->position()), steps);
 }
 
 void PlotView::changeEvent(QEvent* event) {

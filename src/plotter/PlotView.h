@@ -19,6 +19,10 @@ class PlotView : public QWidget {
   void ShowGraph();
   /// Draws what lies over the graph again: the rubber-band box.
   void ShowDrag() { update(); }
+  /// Whether the pen is down on the graph.
+  bool IsPenDown() const { return penIsDown; }
+  /// Forgets a pen that is down: it is not waited for any more.
+  void DropPen();
 
   QSize sizeHint() const override;
 
@@ -26,10 +30,13 @@ class PlotView : public QWidget {
   void PenPressed(PixelPoint point);
   void PenMoved(PixelPoint point);
   void PenReleased(PixelPoint point);
-  /// The wheel was turned: steps away from the user, below 0 towards.
-  void WheelTurned(int steps);
+  /// The pen went away, or was dropped, without being released on the graph.
+  void PenLost();
+  /// The wheel was turned at a point: steps away from the user, below 0 towards.
+  void WheelTurned(PixelPoint point, int steps);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

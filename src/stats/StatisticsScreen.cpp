@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
@@ -289,7 +290,10 @@ void StatisticsScreen::AskToSaveThen(std::function<void()> next) {
 
 void StatisticsScreen::SaveThen(std::function<void()> next) {
   LeaveEdits();
-  file_dialogs::AskForFileToSave(this, QString::fromLatin1(kFileFilter),
+  // A name stays as it was typed: no suffix is added.
+  const file_dialogs::SaveOffer offer{
+      QStringLiteral("Save Data"), fileName, {{QString::fromLatin1(kFileFilter), {}}}};
+  file_dialogs::AskForFileToSave(this, offer,
                                  [this, next = std::move(next)](const file_dialogs::Answer& path) {
                                    if (path) SaveTo(*path, next);
                                  });
@@ -299,7 +303,10 @@ void StatisticsScreen::SaveTo(const QString& path, const std::function<void()>& 
   const FileOutcome outcome = RunWithProgress(this, QStringLiteral("Saving..."), [&](auto watcher) {
     return SaveDataFile(path, statistics.List().Rows(), watcher);
   });
-  if (outcome.end == FileEnd::Failed) file_dialogs::ShowFileError(this, path, outcome.reason);
+  if (outcome.end == FileEnd::Failed) {
+    fileName = QFileInfo(path).fileName();
+    file_dialogs::ShowFileError(this, path, outcome.reason);
+  }
   // The rows are still to be saved: what was to come next could lose them.
   if (outcome.end != FileEnd::Done) return;
   statistics.Saved();
@@ -309,7 +316,8 @@ void StatisticsScreen::SaveTo(const QString& path, const std::function<void()>& 
 void StatisticsScreen::Load() {
   LeaveEdits();
   AskToSaveThen([this] {
-    file_dialogs::AskForFileToOpen(this, QString::fromLatin1(kFileFilter),
+    file_dialogs::AskForFileToOpen(this, QStringLiteral("Load Data"),
+                                   QString::fromLatin1(kFileFilter),
                                    [this](const file_dialogs::Answer& path) {
                                      if (path) LoadFrom(*path);
                                    });

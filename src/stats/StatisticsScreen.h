@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <new>
 #include <span>
@@ -114,6 +115,8 @@ class StatisticsScreen : public ModeScreen {
 
   SettingsStore& store;
   Statistics statistics;
+  /// The name that the file dialog proposes: one that was tried and failed, else the usual one.
+  QString fileName = QStringLiteral("data.txt");
   DataEntryForm* form;
   RowsPane* rowsPane;
   DataTableView* table;

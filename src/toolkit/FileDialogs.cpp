@@ -1,9 +1,12 @@
 #include "toolkit/FileDialogs.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QLineEdit>
 #include <QSortFilterProxyModel>
+#include <algorithm>
 #include <deque>
 #include <utility>
 
@@ -15,6 +18,12 @@ namespace {
 std::deque<Answer>& NextAnswers() {
   static std::deque<Answer> answers;
   return answers;
+}
+
+/// The folder in which the last file was chosen; empty: none was.
+QString& LastFolder() {
+  static QString folder;
+  return folder;
 }
 
 /// Leaves out the files that must not be written.
@@ -30,14 +39,64 @@ class WritableFiles : public QSortFilterProxyModel {
   }
 };
 
+/// Asks for a file to write.
+class SaveDialog : public QFileDialog {
+ public:
+  SaveDialog(QWidget* parent, const SaveOffer& offer)
+      : QFileDialog(parent, offer.title), kinds(offer.kinds) {
+    setAcceptMode(QFileDialog::AcceptSave);
+    // The desktop's own dialog cannot leave files out.
+    setOption(QFileDialog::DontUseNativeDialog);
+    setProxyModel(new WritableFiles(this));
+    nameBox = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  }
+
+  void Propose(const QString& name) {
+    const QString suffix = QFileInfo(name).suffix().toLower();
+    for (const FileKind& kind : kinds) {
+      if (!suffix.isEmpty() && kind.suffix == suffix) selectNameFilter(kind.filter);
+    }
+    nameBox->setText(name);
+    nameBox->selectAll();
+  }
+
+ protected:
+  /// The name is completed before the toolkit looks whether such a file exists.
+  void accept() override {
+    const QString name = nameBox->text();
+    const QString suffix = ChosenSuffix();
+    const bool isFolder = QFileInfo(directory(), name).isDir();
+    if (!name.isEmpty() && !suffix.isEmpty() && !isFolder && !NamesKind(name)) {
+      nameBox->setText(name.endsWith(u'.') ? name + suffix : name + u'.' + suffix);
+    }
+    QFileDialog::accept();
+  }
+
+ private:
+  QString ChosenSuffix() const {
+    const auto chosen = std::ranges::find(kinds, selectedNameFilter(), &FileKind::filter);
+    return chosen == kinds.end() ? QString() : chosen->suffix;
+  }
+  bool NamesKind(const QString& name) const {
+    return std::ranges::find(kinds, QFileInfo(name).suffix().toLower(), &FileKind::suffix) !=
+           kinds.end();
+  }
+
+  std::vector<FileKind> kinds;
+  QLineEdit* nameBox;
+};
+
 void Open(QFileDialog* dialog, const QString& name, const QStringList& filters, Answered answered) {
   dialog->setObjectName(name);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setNameFilters(filters);
+  if (QDir(LastFolder()).exists()) dialog->setDirectory(LastFolder());
   QObject::connect(dialog, &QFileDialog::finished, dialog->parentWidget(),
                    [dialog, answered = std::move(answered)](int outcome) {
-                     const bool chosen = outcome == QDialog::Accepted;
-                     answered(chosen ? Answer(dialog->selectedFiles().value(0)) : std::nullopt);
+                     if (outcome != QDialog::Accepted) return answered(std::nullopt);
+                     const QString path = dialog->selectedFiles().value(0);
+                     LastFolder() = QFileInfo(path).absolutePath();
+                     answered(path);
                    });
   dialog->open();
 }
@@ -53,35 +112,23 @@ bool AnsweredByTest(const Answered& answered) {
 
 }  // namespace
 
-void AskForFileToOpen(QWidget* parent, const QString& filter, Answered answered) {
+void AskForFileToOpen(QWidget* parent, const QString& title, const QString& filter,
+                      Answered answered) {
   if (AnsweredByTest(answered)) return;
-  auto* const dialog = new QFileDialog(parent, QStringLiteral("Load"));
+  auto* const dialog = new QFileDialog(parent, title);
   dialog->setAcceptMode(QFileDialog::AcceptOpen);
   dialog->setFileMode(QFileDialog::ExistingFile);
-  Open(dialog, QStringLiteral("LoadFile"), {filter}, std::move(answered));
+  Open(dialog, QStringLiteral("LoadFile"), {filter, QStringLiteral("All files (*)")},
+       std::move(answered));
 }
 
-void AskForFileToSave(QWidget* parent, const std::vector<FileKind>& kinds, Answered answered) {
+void AskForFileToSave(QWidget* parent, const SaveOffer& offer, Answered answered) {
   if (AnsweredByTest(answered)) return;
-  auto* const dialog = new QFileDialog(parent, QStringLiteral("Save"));
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  // The desktop's own dialog cannot leave files out.
-  dialog->setOption(QFileDialog::DontUseNativeDialog);
-  dialog->setProxyModel(new WritableFiles(dialog));
+  auto* const dialog = new SaveDialog(parent, offer);
   QStringList filters;
-  for (const FileKind& kind : kinds) filters << kind.filter;
-  const auto follow = [dialog, kinds](const QString& filter) {
-    for (const FileKind& kind : kinds) {
-      if (kind.filter == filter) dialog->setDefaultSuffix(kind.suffix);
-    }
-  };
-  follow(filters.value(0));
-  QObject::connect(dialog, &QFileDialog::filterSelected, dialog, follow);
+  for (const FileKind& kind : offer.kinds) filters << kind.filter;
   Open(dialog, QStringLiteral("SaveFile"), filters, std::move(answered));
-}
-
-void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered) {
-  AskForFileToSave(parent, std::vector<FileKind>{{filter, {}}}, std::move(answered));
+  dialog->Propose(offer.name);
 }
 
 void ShowFileError(QWidget* parent, const QString& path, const QString& reason,

@@ -9,7 +9,7 @@
 class QWidget;
 
 /// The dialogs that ask for a file. They are opened and return at once; what goes on is said by
-/// their callbacks.
+/// their callbacks. They open in the folder that was used last.
 namespace vexa::file_dialogs {
 
 /// What is shown when a file cannot be read or written.
@@ -19,19 +19,26 @@ inline constexpr std::wstring_view kFileError = L"File Error";
 using Answer = std::optional<QString>;
 using Answered = std::function<void(const Answer& path)>;
 
-/// Asks for a file to read. `filter`: description and pattern, e.g. "TXT(*.txt)".
-void AskForFileToOpen(QWidget* parent, const QString& filter, Answered answered);
-/// A kind of file: description and pattern, e.g. "TXT(*.txt)", and the suffix that a name without
-/// one gets; none: the name stays as it is.
+/// Asks for a file to read. `filter`: description and pattern, e.g. "TXT(*.txt)"; all files are
+/// offered, too.
+void AskForFileToOpen(QWidget* parent, const QString& title, const QString& filter,
+                      Answered answered);
+/// A kind of file: description and pattern, e.g. "TXT(*.txt)", and the suffix that a name gets
+/// which ends in no kind's suffix; none: the name stays as it is.
 struct FileKind {
   QString filter;
   QString suffix;
 };
-/// Asks for a file to write, of one of these kinds, which may exist: then the user is asked whether
-/// to replace it. Files that must not be written are not shown.
-void AskForFileToSave(QWidget* parent, const std::vector<FileKind>& kinds, Answered answered);
-/// The same for a single kind; no suffix is added to a name.
-void AskForFileToSave(QWidget* parent, const QString& filter, Answered answered);
+/// What a dialog that asks for a file to write shows at first.
+struct SaveOffer {
+  /// What is saved, as the title says it.
+  QString title;
+  QString name;
+  std::vector<FileKind> kinds;
+};
+/// Asks for a file to write, which may exist: then the user is asked whether to replace it. Files
+/// that must not be written are not shown.
+void AskForFileToSave(QWidget* parent, const SaveOffer& offer, Answered answered);
 
 /// Says that the file at `path` could not be read or written, and the system's `reason`; `closed`
 /// runs when the user has read it.

@@ -114,22 +114,81 @@ TEST(GraphModel, ASecondUndoChangesNothing) {
 }
 
 TEST(GraphModel, EqualBoundsAreRefused) {
-  // A range that runs off the numbers ends with both bounds infinite.
-  GraphData data = Graph({L"x"}, {1e308, 1.7e308, -1, 1});
-  data.options.coordinates = false;
-  GraphModel x = Opened(data);
-  EXPECT_EQ(x.MoveRight(), L"");
-  const PlotRanges before = x.Ranges();
-  EXPECT_TRUE(std::isinf(before.xMax));
-  EXPECT_EQ(x.MoveRight(), L"Can not draw graph(X min = X max)");
-  EXPECT_EQ(x.Ranges(), before);
-  EXPECT_EQ(x.Undo(), L"");
-  EXPECT_EQ(x.Ranges(), data.ranges);
+  // Two columns of a range that is hardly one have the same value.
+  const double next = std::nextafter(1.0, 2.0);
+  const auto zoomToBox = [](GraphModel& graph) {
+    graph.PenDown({10, 100});
+    graph.PenMove({30, 120});
+    return graph.PenUp({30, 120});
+  };
+  GraphModel x = Opened(Graph({L"x"}, {1, next, -1, 1}));
+  EXPECT_EQ(zoomToBox(x), L"Can not draw graph(X min = X max)");
+  EXPECT_EQ(x.Ranges(), (PlotRanges{1, next, -1, 1}));
+  GraphModel y = Opened(Graph({L"x"}, {-1, 1, 1, next}));
+  EXPECT_EQ(zoomToBox(y), L"Can not draw graph(Y min = Y max)");
+}
 
-  data.ranges = {-1, 1, -1.7e308, -1e308};
-  GraphModel y = Opened(data);
-  EXPECT_EQ(y.MoveDown(), L"");
-  EXPECT_EQ(y.MoveDown(), L"Can not draw graph(Y min = Y max)");
+TEST(GraphModel, BoundsThatAreNotFiniteAreRefused) {
+  constexpr std::wstring_view kSentence = L"Out of range(overflow or underflow)";
+  for (const bool coordinates : {true, false}) {
+    for (const PlotRanges& ranges :
+         {PlotRanges{-1e308, 1e308, -1, 1}, PlotRanges{-1, 1, -1e308, 1e308}}) {
+      GraphData data = Graph({L"x"}, ranges);
+      data.options.coordinates = coordinates;
+      GraphModel graph = Opened(data);
+      EXPECT_EQ(graph.ZoomOut(), kSentence);
+      EXPECT_EQ(graph.LastError(), kSentence);
+      EXPECT_EQ(graph.ZoomAt({119, 175}, 1), kSentence);
+      EXPECT_EQ(graph.ZoomAt({119, 175}, -1), kSentence);
+      graph.PenDown({50, 100});
+      EXPECT_NE(graph.PenUp({150, 200}), L"");
+      EXPECT_EQ(graph.Ranges(), ranges);
+      EXPECT_TRUE(graph.IsAtHome());
+    }
+    GraphData edge = Graph({L"x"}, {1e308, 1.7e308, -1, 1});
+    edge.options.coordinates = coordinates;
+    GraphModel graph = Opened(edge);
+    EXPECT_EQ(graph.MoveRight(), kSentence);
+    EXPECT_EQ(graph.Ranges(), edge.ranges);
+  }
+}
+
+TEST(GraphModel, ZoomAtKeepsTheValuesAtThePoint) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  EXPECT_EQ(graph.ZoomAt({165, 260}, 1), L"");
+  // Column 165 is 4, row 260 the lowest of 171.
+  const double low = 20.0 / 171 - 10;
+  EXPECT_DOUBLE_EQ(graph.Ranges().xMin, 4 - 14 * 0.6);
+  EXPECT_DOUBLE_EQ(graph.Ranges().xMax, 4 + 6 * 0.6);
+  EXPECT_DOUBLE_EQ(graph.Ranges().yMin, low - (low + 10) * 0.6);
+  EXPECT_DOUBLE_EQ(graph.Ranges().yMax, low + (10 - low) * 0.6);
+  EXPECT_FALSE(graph.IsAtHome());
+  graph.Reset();
+  EXPECT_EQ(graph.ZoomAt({165, 175}, -2), L"");
+  EXPECT_DOUBLE_EQ(graph.Ranges().xMin, 4 - 14 * 1.4 * 1.4);
+  EXPECT_DOUBLE_EQ(graph.Ranges().xMax, 4 + 6 * 1.4 * 1.4);
+  // Outside of the area it is the nearest point of it.
+  graph.Reset();
+  EXPECT_EQ(graph.ZoomAt({-1000, 5000}, 1), L"");
+  EXPECT_EQ(graph.Ranges(), (PlotRanges{-10, 2, -10, 2}));
+}
+
+TEST(GraphModel, ZoomsAtThatFollowEachOtherAreUndoneTogether) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  graph.MoveUp();
+  const PlotRanges before = graph.Ranges();
+  for (const int steps : {1, 2, -1, 3}) graph.ZoomAt({50, 120}, steps);
+  graph.Undo();
+  EXPECT_EQ(graph.Ranges(), before);
+  // Another command between them ends it.
+  graph.ZoomAt({50, 120}, 1);
+  const PlotRanges zoomed = graph.Ranges();
+  graph.ToggleTrace();
+  graph.ZoomAt({50, 120}, 1);
+  graph.Undo();
+  EXPECT_EQ(graph.Ranges(), zoomed);
+  graph.Undo();
+  EXPECT_EQ(graph.Ranges(), zoomed);
 }
 
 TEST(GraphModel, NeighbouringBoundsStayApart) {

@@ -42,6 +42,12 @@ class GraphViewTest : public QObject {
   void KeysChangeTheRanges();
   void ListsAndBoxesKeepTheirKeys();
   void TheWheelZooms();
+  void AFastTurnOfTheWheelIsUndoneAtOnce();
+  void EscapeDropsTheBox();
+  void ABoxGoesWhenTheReleaseNeverComes();
+  void TextAndCheckAreTakenHoweverTheyAreSet();
+  void TabGoesAsRead();
+  void OptionsTabAsRead();
   void EveryChangeIsDrawn();
   void ATapTraces();
   void ATapWithoutTraceReadsThePoint();
@@ -79,7 +85,8 @@ class GraphViewTest : public QObject {
   /// The middle of a pixel of the view, on the widget.
   QPoint At(int x, int y) const;
   void Drag(QPoint from, QPoint to, bool release = true);
-  void Wheel(int angle);
+  void Wheel(int angle) { Wheel(angle, Plot()->rect().center()); }
+  void Wheel(int angle, QPointF place);
   void Command(const char* caption) {
     Choose(view, QStringLiteral("Graph"), QString::fromLatin1(caption));
   }
@@ -117,8 +124,7 @@ void GraphViewTest::Drag(QPoint from, QPoint to, bool release) {
   if (release) QTest::mouseRelease(Plot(), Qt::LeftButton, {}, to);
 }
 
-void GraphViewTest::Wheel(int angle) {
-  const QPointF place = Plot()->rect().center();
+void GraphViewTest::Wheel(int angle, QPointF place) {
   QWheelEvent wheel(place, Plot()->mapToGlobal(place), {}, QPoint(0, angle), Qt::NoButton,
                     Qt::NoModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(Plot(), &wheel);
@@ -221,18 +227,98 @@ void GraphViewTest::ListsAndBoxesKeepTheirKeys() {
 }
 
 void GraphViewTest::TheWheelZooms() {
-  Wheel(120);
-  QCOMPARE(Graph().Ranges(), (PlotRanges{-6, 6, -6, 6}));
-  Wheel(-120);
-  QCOMPARE(Graph().Ranges().xMax, 8.4);
+  // About the pointer: column 165 is 4.
+  Wheel(120, At(165, 175));
+  QCOMPARE(Graph().Ranges().xMin, 4 - 14 * 0.6);
+  QCOMPARE(Graph().Ranges().xMax, 4 + 6 * 0.6);
+  Command("Reset");
+  Wheel(-120, At(165, 175));
+  QCOMPARE(Graph().Ranges().xMax, 4 + 6 * 1.4);
   // A finely turned wheel adds up.
   Command("Reset");
-  Wheel(60);
+  Wheel(60, At(119, 175));
   QCOMPARE(Graph().Ranges(), PlotRanges());
-  Wheel(60);
+  Wheel(60, At(119, 175));
   QCOMPARE(Graph().Ranges().xMax, 6.0);
-  Wheel(240);
-  QCOMPARE(Graph().Ranges().xMax, 6.0 * 0.6 * 0.6);
+  Wheel(240, At(119, 175));
+  QCOMPARE(Graph().Ranges().xMax, 10 * 0.6 * 0.6 * 0.6);
+}
+
+void GraphViewTest::AFastTurnOfTheWheelIsUndoneAtOnce() {
+  Command("Move Up");
+  const PlotRanges before = Graph().Ranges();
+  for (int n = 0; n < 5; ++n) Wheel(240, At(100 + n, 150));
+  Command("Undo");
+  QCOMPARE(Graph().Ranges(), before);
+}
+
+void GraphViewTest::EscapeDropsTheBox() {
+  for (QWidget* focused : {static_cast<QWidget*>(Plot()), static_cast<QWidget*>(XBox())}) {
+    Drag(At(50, 100), At(150, 200), false);
+    focused->setFocus();
+    QTest::keyClick(focused, Qt::Key_Escape);
+    QVERIFY(view->isVisible());
+    QVERIFY(!Graph().Drag().IsShown());
+    // The pen is still down, and goes on.
+    QMouseEvent move(QEvent::MouseMove, At(160, 210), Plot()->mapToGlobal(At(160, 210)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(Plot(), &move);
+    QVERIFY(!Graph().Drag().IsShown());
+    QTest::mouseRelease(Plot(), Qt::LeftButton, {}, At(160, 210));
+    QCOMPARE(Graph().Ranges(), PlotRanges());
+  }
+  QTest::keyClick(Plot(), Qt::Key_Escape);
+  QTRY_VERIFY(!view);
+}
+
+void GraphViewTest::ABoxGoesWhenTheReleaseNeverComes() {
+  Drag(At(50, 100), At(150, 200), false);
+  QMouseEvent back(QEvent::MouseMove, At(60, 110), Plot()->mapToGlobal(At(60, 110)), Qt::NoButton,
+                   Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(Plot(), &back);
+  QVERIFY(!Graph().Drag().IsShown());
+  QVERIFY2(Plot()->hasMouseTracking(), "moves without a button arrive");
+  Drag(At(50, 100), At(150, 200), false);
+  QEvent away(QEvent::WindowDeactivate);
+  QApplication::sendEvent(Plot(), &away);
+  QVERIFY(!Graph().Drag().IsShown());
+  QTest::mouseRelease(Plot(), Qt::LeftButton, {}, At(150, 200));
+  QCOMPARE(Graph().Ranges(), PlotRanges());
+}
+
+void GraphViewTest::TextAndCheckAreTakenHoweverTheyAreSet() {
+  XBox()->setText(QStringLiteral("3"));
+  Press(view, QStringLiteral("Cal"));
+  QCOMPARE(Values()->itemText(0), QStringLiteral("R:F1(X) = 6"));
+  QCOMPARE(XBox()->text(), QStringLiteral("3"));
+  Trace()->toggle();
+  QVERIFY(!Graph().IsTracing());
+  Trace()->toggle();
+  QVERIFY(Graph().IsTracing());
+}
+
+void GraphViewTest::TabGoesAsRead() {
+  QStringList reached;
+  Functions()->setFocus();
+  do {
+    reached << QApplication::focusWidget()->objectName();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  } while (QApplication::focusWidget() != Functions() && reached.size() < 20);
+  QCOMPARE(reached, QStringList({"Functions", "Values", "Graph", "X =", "Cal", "Trace",
+                                 "Save Graph", "Close"}));
+}
+
+void GraphViewTest::OptionsTabAsRead() {
+  Command("Graph Options");
+  auto* const options = OpenWindow<PlotterOptionsDialog>(view);
+  QTRY_VERIFY(options->isActiveWindow() && options->focusWidget());
+  QStringList reached;
+  for (int n = 0; n < 9; ++n) {
+    reached << options->focusWidget()->objectName();
+    QTest::keyClick(options->focusWidget(), Qt::Key_Tab);
+  }
+  QCOMPARE(reached, QStringList({"X min", "X max", "Y min", "Y max", "Grid", "Line", "Coordinates",
+                                 "OK", "Cancel"}));
 }
 
 void GraphViewTest::EveryChangeIsDrawn() {
@@ -508,9 +594,10 @@ void GraphViewTest::SaveWritesTheChosenFormat() {
     QCOMPARE(dialog->nameFilters().first(), QStringLiteral("BMP(*.bmp)"));
     QVERIFY(!dialog->testOption(QFileDialog::DontConfirmOverwrite));
     dialog->selectNameFilter(QString::fromLatin1(filter));
-    emit dialog->filterSelected(QString::fromLatin1(filter));
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Save Graph"));
     auto* const nameBox = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     QVERIFY(nameBox);
+    QCOMPARE(nameBox->text(), QStringLiteral("graph"));
     nameBox->setText(name);
     QMetaObject::invokeMethod(dialog, "accept");
     QFile file(name + u'.' + QString::fromLatin1(suffix));
@@ -529,9 +616,20 @@ void GraphViewTest::SaveSaysThatTheFileCannotBeWritten() {
   // Nobody can make a file below a file.
   QTemporaryFile file;
   QVERIFY(file.open());
-  file_dialogs::AddNextAnswer(file.fileName() + QStringLiteral("/graph.bmp"));
+  file_dialogs::AddNextAnswer(file.fileName() + QStringLiteral("/wave.png"));
   Press(view, QStringLiteral("Save Graph"));
+  auto* const box = OpenWindow<QMessageBox>(view);
+  QVERIFY(box);
+  QVERIFY2(box->informativeText().startsWith(QStringLiteral("wave.png: ")),
+           qPrintable(box->informativeText()));
   QCOMPARE(Answer(view), QStringLiteral("File Error"));
+  QTRY_VERIFY(Plot()->hasFocus());
+  // What was typed is not to be typed again.
+  QFileDialog* const dialog = OpenSave();
+  QCOMPARE(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
+           QStringLiteral("wave.png"));
+  QCOMPARE(dialog->selectedNameFilter(), QStringLiteral("PNG(*.png)"));
+  dialog->reject();
 }
 
 void GraphViewTest::CancelledSaveWritesNothing() {

@@ -6,8 +6,11 @@
 
 #include <QAbstractItemView>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -31,6 +34,13 @@ class FileDialogsTest : public QObject {
   void OpensAnExistingFile();
   void SavesUnderANewName();
   void AddsNoSuffix();
+  void ANameGetsTheSuffixOfTheChosenKind_data();
+  void ANameGetsTheSuffixOfTheChosenKind();
+  void ReplacingIsAskedForTheCompletedName();
+  void AFolderIsEnteredAsItIs();
+  void SaysWhatIsSavedAndProposesAName();
+  void OpensInTheFolderUsedLast();
+  void AnErrorNamesFileAndReason();
   void AsksBeforeReplacing();
   void CancelIsAnAnswer();
   void HidesFilesThatMustNotBeWritten();
@@ -42,15 +52,32 @@ class FileDialogsTest : public QObject {
     return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
   }
   QFileDialog* AskToOpen() {
-    file_dialogs::AskForFileToOpen(window.get(), "TXT(*.txt)",
+    file_dialogs::AskForFileToOpen(window.get(), "Load Data", "TXT(*.txt)",
                                    [this](const Answer& answer) { answers << answer; });
     return window->findChild<QFileDialog*>("LoadFile");
   }
-  QFileDialog* AskToSave() {
-    file_dialogs::AskForFileToSave(window.get(), "TXT(*.txt)",
+  QFileDialog* AskToSave() { return AskToSave({"Save Data", "data.txt", {{"TXT(*.txt)", {}}}}); }
+  QFileDialog* AskToSave(const file_dialogs::SaveOffer& offer) {
+    file_dialogs::AskForFileToSave(window.get(), offer,
                                    [this](const Answer& answer) { answers << answer; });
     return window->findChild<QFileDialog*>("SaveFile");
   }
+  static QLineEdit* NameBox(QFileDialog* dialog) {
+    return dialog->findChild<QLineEdit*>("fileNameEdit");
+  }
+  /// Saves under what is typed, with `filter` chosen, and gives the name that comes out.
+  QString SavedAs(const QString& typed, const QString& filter) {
+    QFileDialog* const dialog = AskToSave({"Save Graph", "graph", kPictures});
+    dialog->setDirectory(dir->path());
+    dialog->selectNameFilter(filter);
+    NameBox(dialog)->setText(typed);
+    QMetaObject::invokeMethod(dialog, "accept");
+    const QString saved = answers.isEmpty() ? QString() : answers.takeLast().value_or(QString());
+    delete dialog;
+    return saved.startsWith(dir->path() + u'/') ? saved.mid(dir->path().size() + 1) : saved;
+  }
+  const std::vector<file_dialogs::FileKind> kPictures{
+      {"BMP(*.bmp)", "bmp"}, {"PNG(*.png)", "png"}, {"SVG(*.svg)", "svg"}};
   static void Choose(QFileDialog* dialog, const QString& path) {
     dialog->setDirectory(QFileInfo(path).path());
     dialog->selectFile(path);
@@ -68,7 +95,8 @@ void FileDialogsTest::OpensAnExistingFile() {
   QFileDialog* const dialog = AskToOpen();
   QVERIFY(dialog && dialog->isVisible());
   QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptOpen);
-  QCOMPARE(dialog->nameFilters(), QStringList{"TXT(*.txt)"});
+  QCOMPARE(dialog->nameFilters(), QStringList({"TXT(*.txt)", "All files (*)"}));
+  QCOMPARE(dialog->windowTitle(), QStringLiteral("Load Data"));
   const QString path = PutFile("data.txt");
   Choose(dialog, path);
   QCOMPARE(answers, QList<Answer>{path});
@@ -87,6 +115,98 @@ void FileDialogsTest::AddsNoSuffix() {
   QFileDialog* const dialog = AskToSave();
   Choose(dialog, dir->filePath("plain"));
   QCOMPARE(answers, QList<Answer>{dir->filePath("plain")});
+}
+
+void FileDialogsTest::ANameGetsTheSuffixOfTheChosenKind_data() {
+  QTest::addColumn<QString>("typed");
+  QTest::addColumn<QString>("filter");
+  QTest::addColumn<QString>("saved");
+  const char* const rows[][3] = {
+      {"graph", "BMP(*.bmp)", "graph.bmp"},         {"graph", "SVG(*.svg)", "graph.svg"},
+      {"plot v1.0", "PNG(*.png)", "plot v1.0.png"}, {"plot v1.0", "BMP(*.bmp)", "plot v1.0.bmp"},
+      {"graph.svg", "PNG(*.png)", "graph.svg"},     {"graph.PNG", "BMP(*.bmp)", "graph.PNG"},
+      {"graph.txt", "SVG(*.svg)", "graph.txt.svg"}, {"graph.", "PNG(*.png)", "graph.png"},
+      {".hidden", "PNG(*.png)", ".hidden.png"}};
+  for (const auto& row : rows) {
+    QTest::addRow("%s %s", row[0], row[1]) << row[0] << row[1] << row[2];
+  }
+}
+
+void FileDialogsTest::ANameGetsTheSuffixOfTheChosenKind() {
+  QFETCH(QString, typed);
+  QFETCH(QString, filter);
+  QTEST(SavedAs(typed, filter), "saved");
+}
+
+void FileDialogsTest::ReplacingIsAskedForTheCompletedName() {
+  PutFile("v1.0.png");
+  bool asked = false;
+  QTimer::singleShot(0, this, [&] {
+    auto* const box = window->findChild<QMessageBox*>();
+    if (!box) return;
+    asked = box->text().contains("v1.0.png");
+    box->button(QMessageBox::No)->click();
+  });
+  QCOMPARE(SavedAs("v1.0", "PNG(*.png)"), QString());
+  QVERIFY(asked);
+}
+
+void FileDialogsTest::AFolderIsEnteredAsItIs() {
+  QVERIFY(QDir(dir->path()).mkdir("pictures"));
+  QFileDialog* const dialog = AskToSave({"Save Graph", "graph", kPictures});
+  dialog->setDirectory(dir->path());
+  NameBox(dialog)->setText("pictures");
+  QMetaObject::invokeMethod(dialog, "accept");
+  QVERIFY(answers.isEmpty());
+  QCOMPARE(dialog->directory(), QDir(dir->filePath("pictures")));
+  dialog->reject();
+}
+
+void FileDialogsTest::SaysWhatIsSavedAndProposesAName() {
+  QFileDialog* dialog = AskToSave({"Save Graph", "graph", kPictures});
+  QCOMPARE(dialog->windowTitle(), QStringLiteral("Save Graph"));
+  QCOMPARE(NameBox(dialog)->text(), QStringLiteral("graph"));
+  QCOMPARE(NameBox(dialog)->selectedText(), QStringLiteral("graph"));
+  QCOMPARE(dialog->selectedNameFilter(), QStringLiteral("BMP(*.bmp)"));
+  delete dialog;
+  // A proposed name of a kind chooses that kind.
+  dialog = AskToSave({"Save Graph", "wave.svg", kPictures});
+  QCOMPARE(NameBox(dialog)->text(), QStringLiteral("wave.svg"));
+  QCOMPARE(dialog->selectedNameFilter(), QStringLiteral("SVG(*.svg)"));
+  delete dialog;
+}
+
+void FileDialogsTest::OpensInTheFolderUsedLast() {
+  Choose(AskToSave(), dir->filePath("new.txt"));
+  QTRY_VERIFY(!window->findChild<QFileDialog*>());
+  QCOMPARE(AskToOpen()->directory(), QDir(dir->path()));
+  QTemporaryDir other;
+  QFile file(other.filePath("data.txt"));
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  auto* const dialog = window->findChild<QFileDialog*>("LoadFile");
+  Choose(dialog, file.fileName());
+  QTRY_VERIFY(!window->findChild<QFileDialog*>());
+  QCOMPARE(AskToSave()->directory(), QDir(other.path()));
+  // A folder that is gone is no place to begin.
+  delete window->findChild<QFileDialog*>("SaveFile");
+  QVERIFY(other.remove());
+  QVERIFY(AskToSave()->directory().exists());
+}
+
+void FileDialogsTest::AnErrorNamesFileAndReason() {
+  int closed = 0;
+  file_dialogs::ShowFileError(window.get(), "/a/b/<i>c.txt", "No such <b>file</b>",
+                              [&] { ++closed; });
+  auto* const box = window->findChild<QMessageBox*>();
+  QVERIFY(box);
+  QCOMPARE(box->text(), QStringLiteral("File Error"));
+  QCOMPARE(box->icon(), QMessageBox::Critical);
+  QCOMPARE(box->informativeText(), QStringLiteral("<i>c.txt: No such <b>file</b>"));
+  for (const QLabel* label : box->findChildren<QLabel*>()) {
+    QVERIFY(label->pixmap().isNull() == false || label->textFormat() == Qt::PlainText);
+  }
+  box->button(QMessageBox::Ok)->click();
+  QCOMPARE(closed, 1);
 }
 
 void FileDialogsTest::AsksBeforeReplacing() {
