@@ -14,9 +14,14 @@ constexpr std::size_t kLongestNumber = 32;
 constexpr std::array<double PlotRanges::*, kRangeBoxCaptions.size()> kBounds{
     &PlotRanges::xMin, &PlotRanges::xMax, &PlotRanges::yMin, &PlotRanges::yMax};
 
-std::wstring NumberText(double value) {
+/// The digits that tell every double from its neighbours.
+constexpr int kMostDigits = 17;
+
+/// `value` in the C library's general form with so many digits; none: the shortest exact text.
+template <typename... Digits>
+std::wstring NumberText(double value, Digits... digits) {
   std::array<char, kLongestNumber> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, digits...).ptr;
   return {text.data(), end};
 }
 
@@ -55,6 +60,14 @@ RangeTexts TextsOf(const PlotRanges& ranges) {
   RangeTexts texts;
   for (std::size_t i = 0; i < texts.size(); ++i) texts[i] = NumberText(ranges.*kBounds[i]);
   return texts;
+}
+
+std::wstring FittingText(double value, const std::function<bool(std::wstring_view text)>& fits) {
+  std::wstring text = NumberText(value);
+  for (int digits = kMostDigits - 1; digits > 0 && !fits(text); --digits) {
+    text = NumberText(value, std::chars_format::general, digits);
+  }
+  return text;
 }
 
 }  // namespace vexa

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -61,5 +62,8 @@ RangeReading ReadOrderedRanges(const RangeTexts& texts);
 
 /// Texts that the boxes show for `ranges`: the shortest that read back as the same numbers.
 RangeTexts TextsOf(const PlotRanges& ranges);
+
+/// `value` with as many digits as `fits` lets it have, at least one.
+std::wstring FittingText(double value, const std::function<bool(std::wstring_view text)>& fits);
 
 }  // namespace vexa

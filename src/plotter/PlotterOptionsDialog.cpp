@@ -2,9 +2,9 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "plotter/RangeEdit.h"
 #include "plotter/RangeForm.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/Theme.h"
@@ -30,7 +30,7 @@ PlotterOptionsDialog::PlotterOptionsDialog(const PlotRanges& shown, const PlotOp
 void PlotterOptionsDialog::accept() {
   const RangeReading reading = ReadOrderedRanges(form->Texts());
   if (!reading.sentence.empty()) {
-    QLineEdit* const box = form->Box(reading.boxAtFault.value_or(RangeBox::XMin));
+    RangeEdit* const box = form->Box(reading.boxAtFault.value_or(RangeBox::XMin));
     ShowErrorBox(this, reading.sentence, [box] { box->setFocus(); });
     return;
   }

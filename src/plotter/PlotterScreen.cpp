@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -20,6 +19,7 @@
 #include "plotter/GraphViewDialog.h"
 #include "plotter/NoticeLine.h"
 #include "plotter/PlotterKeypad.h"
+#include "plotter/RangeEdit.h"
 #include "plotter/RangeForm.h"
 #include "toolkit/EditLine.h"
 #include "toolkit/KeyButton.h"
@@ -225,7 +225,7 @@ void PlotterScreen::RecallVariable() {
 void PlotterScreen::TakeVariable(QWidget* target, int index) {
   const std::wstring text = MemoryVariables(store).FormulaText(index);
   if (target == Line()) return InsertIntoLine(text);
-  qobject_cast<QLineEdit*>(target)->setText(FromWide(text));
+  qobject_cast<RangeEdit*>(target)->ShowText(text);
 }
 
 void PlotterScreen::Configure() {

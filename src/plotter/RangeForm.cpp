@@ -4,10 +4,10 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 #include "display/WideText.h"
+#include "plotter/RangeEdit.h"
 #include "toolkit/KeyboardOnFocus.h"
 #include "toolkit/LimitLength.h"
 #include "toolkit/NumberBox.h"
@@ -55,7 +55,7 @@ void RangeForm::BuildBoxes(QGridLayout* grid, int leastHeight) {
   for (std::size_t i = 0; i < boxes.size(); ++i) {
     const QString caption = FromWide(kRangeBoxCaptions[i]);
     auto* const label = new QLabel(caption, this);
-    boxes[i] = new QLineEdit(this);
+    boxes[i] = new RangeEdit(this);
     LimitLength(boxes[i], kNumberLength);
     boxes[i]->setObjectName(caption);
     boxes[i]->setAccessibleName(caption);
@@ -73,15 +73,12 @@ void RangeForm::BuildBoxes(QGridLayout* grid, int leastHeight) {
 
 RangeTexts RangeForm::Texts() const {
   RangeTexts texts;
-  for (std::size_t i = 0; i < boxes.size(); ++i) texts[i] = boxes[i]->text().toStdWString();
+  for (std::size_t i = 0; i < boxes.size(); ++i) texts[i] = boxes[i]->Text();
   return texts;
 }
 
 void RangeForm::SetTexts(const RangeTexts& texts) {
-  for (std::size_t i = 0; i < boxes.size(); ++i) {
-    boxes[i]->setText(FromWide(texts[i]));
-    boxes[i]->setCursorPosition(0);
-  }
+  for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->ShowText(texts[i]);
 }
 
 PlotOptions RangeForm::Options() const {

@@ -7,9 +7,10 @@
 
 class QCheckBox;
 class QGridLayout;
-class QLineEdit;
 
 namespace vexa {
+
+class RangeEdit;
 
 /// The four boxes of the ranges and the check boxes of the options.
 class RangeForm : public QWidget {
@@ -19,12 +20,13 @@ class RangeForm : public QWidget {
   /// `leastHeight`: of a box, where the form has little room.
   RangeForm(int leastHeight, QWidget* parent);
 
+  /// What the boxes hold: exact, also where a box has no room to show it so.
   RangeTexts Texts() const;
   void SetTexts(const RangeTexts& texts);
   PlotOptions Options() const;
   void SetOptions(const PlotOptions& options);
-  QLineEdit* Box(RangeBox box) const { return boxes[static_cast<std::size_t>(box)]; }
-  const std::array<QLineEdit*, kRangeBoxCaptions.size()>& Boxes() const { return boxes; }
+  RangeEdit* Box(RangeBox box) const { return boxes[static_cast<std::size_t>(box)]; }
+  const std::array<RangeEdit*, kRangeBoxCaptions.size()>& Boxes() const { return boxes; }
 
  signals:
   /// The text of a box changed.
@@ -33,7 +35,7 @@ class RangeForm : public QWidget {
  private:
   void BuildBoxes(QGridLayout* grid, int leastHeight);
 
-  std::array<QLineEdit*, kRangeBoxCaptions.size()> boxes;
+  std::array<RangeEdit*, kRangeBoxCaptions.size()> boxes;
   std::array<QCheckBox*, kPlotOptionCaptions.size()> checks;
 };
 

@@ -64,6 +64,28 @@ TEST(PlotRanges, TextsReadBackAsTheSameNumbers) {
   EXPECT_EQ(TextsOf({-10, 10, -8.4, 0.25}), (RangeTexts{L"-10", L"10", L"-8.4", L"0.25"}));
 }
 
+TEST(PlotRanges, ANumberHasTheDigitsThatFit) {
+  struct Case {
+    double value;
+    std::size_t room;
+    const wchar_t* text;
+  };
+  const Case cases[] = {{1.31186256915e-05, 100, L"1.31186256915e-05"},
+                        {1.31186256915e-05, 16, L"1.3118625692e-05"},
+                        {1.31186256915e-05, 8, L"1.31e-05"},
+                        {1.31186256915e-05, 1, L"1e-05"},
+                        {0.25, 4, L"0.25"},
+                        {-1.0 / 3, 8, L"-0.33333"},
+                        {123456789012.0, 9, L"1.235e+11"},
+                        {-1.7976931348623157e308, 10, L"-1.8e+308"},
+                        {10, 2, L"10"}};
+  for (const Case& c : cases) {
+    const std::wstring text =
+        FittingText(c.value, [&](std::wstring_view t) { return t.size() <= c.room; });
+    EXPECT_EQ(text, c.text) << c.value << " in " << c.room;
+  }
+}
+
 TEST(PlotRanges, EveryOptionIsOnAtFirst) {
   EXPECT_EQ(PlotOptions(), (PlotOptions{true, true, true}));
 }

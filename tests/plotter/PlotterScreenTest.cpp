@@ -51,6 +51,7 @@ class PlotterScreenTest : public QObject {
   void PlotSaysThatABoxIsNoNumber();
   void PlotShowsTheFunctionThatFails();
   void MemoryGoesToTheBoxThatHadTheFocus();
+  void ALongNumberIsStoredExactly();
   void MacroWithoutMacrosOpensTheEditor();
   void MacroInsertsItsCall();
   void ConfigIsStoredAtOnce();
@@ -438,6 +439,30 @@ void PlotterScreenTest::MemoryGoesToTheBoxThatHadTheFocus() {
   recall(1);
   recall(2);
   QCOMPARE(Field(), QStringLiteral("1234.50"));
+}
+
+void PlotterScreenTest::ALongNumberIsStoredExactly() {
+  const QString exact = QStringLiteral("0.000013118625691512345678901234567890");
+  screen.reset();
+  Write(*store, settings::kXMax, exact.toStdWString());
+  Write(*store, settings::kMemoryVariable, 0, L"1234567890.12345678901234567890");
+  Open();
+  QVERIFY2(Box("X max")->text().endsWith(QStringLiteral("e-05")), qPrintable(Box("X max")->text()));
+  Box("Y max")->setFocus();
+  PressKey("M");
+  auto* const memory = OpenWindow<MemoryVariableDialog>(screen.get());
+  memory->findChild<TouchList*>()->setCurrentRow(0);
+  Press(memory, QStringLiteral("Recall"));
+  QCOMPARE(FromWide(Read(*store, settings::kYMax)),
+           QStringLiteral("1234567890.12345678901234567890"));
+  SetField(QStringLiteral("x"));
+  PressKey("Plot");
+  auto* const view = OpenWindow<GraphViewDialog>(screen.get());
+  QVERIFY(view);
+  QCOMPARE(view->Graph().Ranges().xMax, exact.toDouble());
+  Press(view, QStringLiteral("Close"));
+  screen.reset();
+  QCOMPARE(FromWide(Read(*store, settings::kXMax)), exact);
 }
 
 void PlotterScreenTest::MacroWithoutMacrosOpensTheEditor() {
