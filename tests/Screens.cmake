@@ -28,6 +28,13 @@ vexa_screen_test(touch_size_test toolkit/TouchSizeTest.cpp)
 add_test(NAME touch_size_test.small_screen COMMAND touch_size_test)
 set_tests_properties(touch_size_test.small_screen PROPERTIES ENVIRONMENT
   QT_QPA_PLATFORM=offscreen:configfile=${CMAKE_CURRENT_SOURCE_DIR}/support/SmallScreen.json)
+# Frames at whole and at broken numbers of pixels.
+vexa_screen_test(frames_test toolkit/FramesTest.cpp)
+foreach(scale 1.25 1.5 1.75)
+  add_test(NAME frames_test.${scale} COMMAND frames_test)
+  set_tests_properties(frames_test.${scale} PROPERTIES ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${scale}")
+endforeach()
 vexa_screen_test(main_frame_test app/MainFrameTest.cpp)
 vexa_screen_test(settings_saver_test app/SettingsSaverTest.cpp)
 vexa_screen_test(single_instance_test app/SingleInstanceTest.cpp)

@@ -19,6 +19,8 @@ constexpr IntSetting kHeight{L"Window", L"Height", 0};
 constexpr int kComfortableHeight = 560;
 constexpr int kComfortableShare = 85;
 constexpr int kComfortableWidth = 340;
+/// What the window's own frame takes of a small display's height; the rest is used.
+constexpr int kFrameHeight = 28;
 
 /// The length that two stretches share; stored values may be any integer, hence 64 bits.
 std::int64_t Overlap(int start, int length, int otherStart, int otherLength) {
@@ -34,7 +36,9 @@ std::int64_t SharedArea(const WindowPlace& a, const WindowPlace& b) {
 }  // namespace
 
 WindowPlace FirstPlace(const WindowPlace& screen) {
-  const int height = std::min(kComfortableHeight, screen.height * kComfortableShare / 100);
+  const int least = std::min(kLayoutHeight, screen.height - kFrameHeight);
+  const int height =
+      std::min(kComfortableHeight, std::max(screen.height * kComfortableShare / 100, least));
   const int width = std::min({kComfortableWidth, screen.width, std::max(height, kLayoutWidth)});
   return {screen.left + (screen.width - width) / 2, screen.top + (screen.height - height) / 2,
           width, height};

@@ -122,6 +122,10 @@ QPalette IndicatorPalette(const QPalette& palette) {
   return colours;
 }
 
+QColor FrameColour(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window));
+}
+
 QFont ProgramFont(const QFont& base) {
   // The toolkit takes the first family that exists.
   QFont font(base);

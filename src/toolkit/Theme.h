@@ -44,6 +44,9 @@ void ShowAsNotice(QWidget* label);
 /// be seen: on a dark window the circle or square is lighter.
 QPalette IndicatorPalette(const QPalette& palette);
 
+/// The colour of the frame around a field beside `palette`'s window.
+QColor FrameColour(const QPalette& palette);
+
 /// `base`, the desktop's own font, in "Tahoma" where that exists.
 QFont ProgramFont(const QFont& base);
 

@@ -1,5 +1,7 @@
 #include "toolkit/TouchStyle.h"
 
+#include <QAbstractScrollArea>
+#include <QPainter>
 #include <QStyleOptionMenuItem>
 #include <algorithm>
 
@@ -20,6 +22,18 @@ bool IsSeparator(const QStyleOption* option) {
   return item && item->menuItemType == QStyleOptionMenuItem::Separator;
 }
 
+/// A frame of one pixel each, filled: a line that is drawn falls below what the frame holds where
+/// pixels of the display are no whole number of the program's.
+void DrawFrame(const QStyleOption& option, QPainter& painter) {
+  constexpr qreal kWidth = 1;
+  const QRectF box(option.rect);
+  const QColor colour = theme::FrameColour(option.palette);
+  painter.fillRect(QRectF(box.left(), box.top(), box.width(), kWidth), colour);
+  painter.fillRect(QRectF(box.left(), box.bottom() - kWidth, box.width(), kWidth), colour);
+  painter.fillRect(QRectF(box.left(), box.top(), kWidth, box.height()), colour);
+  painter.fillRect(QRectF(box.right() - kWidth, box.top(), kWidth, box.height()), colour);
+}
+
 }  // namespace
 
 QSize TouchStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
@@ -37,6 +51,9 @@ QRect TouchStyle::subElementRect(SubElement element, const QStyleOption* option,
 
 void TouchStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
+  if (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget)) {
+    return DrawFrame(*option, *painter);
+  }
   const bool isIndicator = element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox;
   const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
   if (!isIndicator || !button) {

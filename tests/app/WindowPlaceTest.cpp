@@ -19,6 +19,11 @@ bool IsInside(const WindowPlace& place, const WindowPlace& screen) {
          place.top + place.height <= screen.top + screen.height;
 }
 
+TEST(WindowPlace, ASmallDisplayIsUsedWholeButForTheFrame) {
+  EXPECT_EQ(FirstPlace({0, 0, 240, 320}), (WindowPlace{0, 14, 240, 292}));
+  EXPECT_EQ(FirstPlace({0, 0, 320, 240}).height, 212);
+}
+
 TEST(WindowPlace, OpensCentredAndComfortable) {
   const WindowPlace place = FirstPlace(kLeftScreen);
   EXPECT_EQ(place.width, 340);
