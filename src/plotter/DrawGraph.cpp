@@ -1,6 +1,7 @@
 #include "plotter/DrawGraph.h"
 
 #include "plotter/GraphColours.h"
+#include "plotter/LineStyles.h"
 #include "plotter/PlotArea.h"
 
 namespace vexa {
@@ -10,8 +11,6 @@ using namespace plot_area;
 
 constexpr Colour kWhite{255, 255, 255};
 constexpr Colour kBlack{0, 0, 0};
-constexpr Colour kGridColour{192, 192, 192};
-constexpr Colour kAxisColour{0, 130, 132};
 constexpr Colour kDataColour{0, 0, 255};
 
 /// Cells of the grid in each direction.
@@ -29,8 +28,8 @@ constexpr int kNameMargin = 2;
 // Range labels: a column of lines, at the top unless the horizontal axis runs low.
 constexpr int kLabelMargin = 5;
 constexpr int kLabelSpacing = 15;
-constexpr int kFirstLabelAtTop = kTop + 15;
-constexpr int kFirstLabelAtBottom = kBottom - 64;
+constexpr int kFirstLabelBelowTop = 15;
+constexpr int kFirstLabelAboveBottom = 64;
 constexpr int kLowAxis = kTop + kHeight / 2 + 10;
 
 // The last sample still lies left of the frame's right side, so no point needs to be left out.
@@ -39,24 +38,24 @@ static_assert(kLeft + static_cast<int>(kSampleCount) - 1 <= kRight - 1);
 void DrawGrid(Canvas& canvas) {
   for (int k = 1; k < kGridCells; ++k) {
     const int row = kTop + k * (kHeight / kGridCells);
-    canvas.Line({kLeft, row}, {kRight, row}, kGridColour);
+    canvas.Line({kLeft, row}, {kRight, row}, line_styles::kGrid);
   }
   for (int k = 1; k < kGridCells; ++k) {
     const int column = kLeft + k * (kWidth / kGridCells);
-    canvas.Line({column, kTop - 1}, {column, kBottom}, kGridColour);
+    canvas.Line({column, kTop - 1}, {column, kBottom}, line_styles::kGrid);
   }
 }
 
 void DrawAxes(const SampledGraph& samples, Canvas& canvas) {
   if (const int column = samples.axisColumn; column != 0) {
-    canvas.Line({column, kTop - 1}, {column, kBottom}, kAxisColour);
+    canvas.Line({column, kTop - 1}, {column, kBottom}, line_styles::kAxis);
     const bool left = column > kRight / 2;
-    canvas.Text({column + (left ? -kNameLeftOfAxis : kNameRightOfAxis), kTop}, L"x=0", kBlack);
+    canvas.Text({column, kTop}, {left ? -kNameLeftOfAxis : kNameRightOfAxis, 0}, L"x=0", kBlack);
   }
   if (const int row = samples.axisRow; row != 0) {
-    canvas.Line({kLeft, row}, {kRight, row}, kAxisColour);
+    canvas.Line({kLeft, row}, {kRight, row}, line_styles::kAxis);
     const bool above = row > kBottom / 2;
-    canvas.Text({kLeft + kNameMargin, row + (above ? -kNameAboveAxis : kNameBelowAxis)}, L"y=0",
+    canvas.Text({kLeft, row}, {kNameMargin, above ? -kNameAboveAxis : kNameBelowAxis}, L"y=0",
                 kBlack);
   }
 }
@@ -81,14 +80,15 @@ void DrawFrame(Canvas& canvas) {
   const PixelPoint corners[] = {
       {kLeft, kTop - 1}, {kRight - 1, kTop - 1}, {kRight - 1, kBottom}, {kLeft, kBottom}};
   for (std::size_t i = 0; i < std::size(corners); ++i) {
-    canvas.Line(corners[i], corners[(i + 1) % std::size(corners)], kBlack);
+    canvas.Line(corners[i], corners[(i + 1) % std::size(corners)], line_styles::kFrame);
   }
 }
 
 void DrawLabels(const GraphModel& graph, Canvas& canvas) {
-  int row = graph.Samples().axisRow > kLowAxis ? kFirstLabelAtBottom : kFirstLabelAtTop;
+  const bool atBottom = graph.Samples().axisRow > kLowAxis;
+  int row = atBottom ? -kFirstLabelAboveBottom : kFirstLabelBelowTop;
   for (const std::wstring& label : graph.Labels()) {
-    canvas.Text({kLeft + kLabelMargin, row}, label, kBlack);
+    canvas.Text({kLeft, atBottom ? kBottom : kTop}, {kLabelMargin, row}, label, kBlack);
     row += kLabelSpacing;
   }
 }

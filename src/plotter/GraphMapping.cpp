@@ -18,6 +18,10 @@ std::optional<int> PixelWithin(double position, int low, int high) {
 
 }  // namespace
 
+double ExactColumn(double x, const PlotRanges& ranges) {
+  return kLeft + (x - ranges.xMin) / (ranges.xMax - ranges.xMin) * (kWidth - 1);
+}
+
 std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ranges) {
   const double position =
       std::trunc((kWidth / (ranges.xMax - ranges.xMin)) * (point.x - ranges.xMin) + kLeft);

@@ -17,6 +17,9 @@ inline double ExactRow(double y, const PlotRanges& ranges) {
   return kBottom - (kHeight / (ranges.yMax - ranges.yMin)) * (y - ranges.yMin);
 }
 
+/// The column of the value `x` on the curves, not truncated: samples stand at whole columns.
+double ExactColumn(double x, const PlotRanges& ranges);
+
 /// The pixel of a data point; none when it lies outside of the plot area.
 std::optional<PixelPoint> DataPixel(const DataPoint& point, const PlotRanges& ranges);
 

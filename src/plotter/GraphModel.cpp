@@ -6,7 +6,9 @@
 
 #include "display/FormatResult.h"
 #include "engine/EngineErrors.h"
+#include "plotter/GraphFunction.h"
 #include "plotter/GraphMapping.h"
+#include "plotter/PlotArea.h"
 #include "toolkit/NumberBox.h"
 
 namespace vexa {
@@ -19,6 +21,7 @@ constexpr double kZoomOutShare = 1 + 2 * kMoveShare;
 
 constexpr std::wstring_view kFunctionLetters = L"RGB";
 constexpr std::wstring_view kNoValue = L"Out of range";
+constexpr std::wstring_view kNothingShown = L" (no value in this range)";
 
 /// A bound moved by `moves` steps. A bound that does not move stays as it is: a step may be
 /// infinite.
@@ -53,22 +56,23 @@ GraphModel::GraphModel(GraphData graph, DisplayType type, int decimals)
 }
 
 std::wstring GraphModel::ZoomIn() {
-  return Change({1, -1, 1, -1});
+  // Even of a width that is infinite; meant.
+  return Change({1, -1, 1, -1}, {.mayBeInfinite = true});
 }
 std::wstring GraphModel::ZoomOut() {
-  return Change({-1, 1, -1, 1});
+  return Change({-1, 1, -1, 1}, {});
 }
 std::wstring GraphModel::MoveLeft() {
-  return Change({-1, -1, 0, 0});
+  return Change({-1, -1, 0, 0}, {});
 }
 std::wstring GraphModel::MoveRight() {
-  return Change({1, 1, 0, 0});
+  return Change({1, 1, 0, 0}, {});
 }
 std::wstring GraphModel::MoveUp() {
-  return Change({0, 0, 1, 1});
+  return Change({0, 0, 1, 1}, {});
 }
 std::wstring GraphModel::MoveDown() {
-  return Change({0, 0, -1, -1});
+  return Change({0, 0, -1, -1}, {});
 }
 
 void GraphModel::BeginCommand() {
@@ -77,12 +81,13 @@ void GraphModel::BeginCommand() {
   lastError.clear();
 }
 
-std::wstring GraphModel::Change(const BoundMoves& moves) {
+std::wstring GraphModel::Change(const BoundMoves& moves, const ChangeKind& kind) {
   BeginCommand();
   const double xStep = (ranges.xMax - ranges.xMin) * kMoveShare;
   const double yStep = (ranges.yMax - ranges.yMin) * kMoveShare;
   return ChangeTo({Moved(ranges.xMin, moves.xMin, xStep), Moved(ranges.xMax, moves.xMax, xStep),
-                   Moved(ranges.yMin, moves.yMin, yStep), Moved(ranges.yMax, moves.yMax, yStep)});
+                   Moved(ranges.yMin, moves.yMin, yStep), Moved(ranges.yMax, moves.yMax, yStep)},
+                  kind);
 }
 
 std::wstring GraphModel::ZoomAt(PixelPoint point, int steps) {
@@ -93,26 +98,26 @@ std::wstring GraphModel::ZoomAt(PixelPoint point, int steps) {
   const double share = std::pow(steps > 0 ? kZoomInShare : kZoomOutShare, std::abs(steps));
   std::wstring sentence = ChangeTo({x - (x - ranges.xMin) * share, x + (ranges.xMax - x) * share,
                                     y - (y - ranges.yMin) * share, y + (ranges.yMax - y) * share},
-                                   goesOn);
+                                   {.goesOn = goesOn});
   zoomedAt = goesOn || sentence.empty();
   return sentence;
 }
 
-std::wstring GraphModel::ChangeTo(const PlotRanges& wanted, bool goesOn) {
+std::wstring GraphModel::ChangeTo(const PlotRanges& wanted, const ChangeKind& kind) {
   if (const std::wstring_view refusal = EmptyRange(wanted); !refusal.empty()) {
     return std::wstring(refusal);
   }
+  // Labels would say so, but they may be off.
+  if (!kind.mayBeInfinite && !IsFinite(wanted)) return lastError = kOutOfRangeText;
   const PlotRanges before = ranges;
   std::wstring sentence = Show(wanted);
   if (!sentence.empty()) return sentence;
-  if (!goesOn) previous = before;
+  if (!kind.goesOn) previous = before;
   atHome = false;
   return {};
 }
 
 std::wstring GraphModel::Show(const PlotRanges& wanted) {
-  // Labels would say so, but they may be off.
-  if (!IsFinite(wanted)) return lastError = kOutOfRangeText;
   if (options.coordinates) {
     std::vector<std::wstring> texts = LabelsOf(wanted);
     if (!lastError.empty()) return lastError;
@@ -167,6 +172,7 @@ std::wstring GraphModel::PenDown(PixelPoint point) {
   xBox = Format(graph_mapping::XAt(point.x, ranges));
   if (trace) return Cal();
   readOuts = {{L"y = ", graph_mapping::YAt(point.y, ranges)}};
+  evaluatedX = std::nan("");
   selectedReadOut = 0;
   return {};
 }
@@ -183,7 +189,7 @@ std::wstring GraphModel::PenUp(PixelPoint point) {
       {graph_mapping::XAt(drag.Start().x, ranges), graph_mapping::XAt(point.x, ranges)});
   const auto [yMin, yMax] = std::minmax(
       {graph_mapping::YAt(drag.Start().y, ranges), graph_mapping::YAt(point.y, ranges)});
-  return ChangeTo({xMin, xMax, yMin, yMax});
+  return ChangeTo({xMin, xMax, yMin, yMax}, {});
 }
 
 std::wstring GraphModel::Cal() {
@@ -191,6 +197,7 @@ std::wstring GraphModel::Cal() {
   if (xBox == L"-0") xBox = L"0";
   const std::optional<double> x = ReadNumberBox(xBox);
   if (!x) return std::wstring(kEnterNumber);
+  evaluatedX = *x;
   readOuts.clear();
   FormulaValues outcome;
   for (std::size_t i = 0; i < data.functions.size(); ++i) {
@@ -201,6 +208,26 @@ std::wstring GraphModel::Cal() {
   }
   selectedReadOut = selectedFunction;
   return {};
+}
+
+std::vector<TraceMark> GraphModel::TraceMarks() const {
+  using namespace plot_area;
+  std::vector<TraceMark> marks;
+  if (!trace) return marks;
+  const double column = graph_mapping::ExactColumn(evaluatedX, ranges);
+  if (!(column >= kLeft && column <= kRight - 1)) return marks;
+  for (std::size_t i = 0; i < std::min(readOuts.size(), data.functions.size()); ++i) {
+    if (!readOuts[i].value) continue;
+    const double row = graph_mapping::ExactRow(*readOuts[i].value, ranges);
+    if (row >= kTop && row <= kBottom) marks.push_back({i, column, row});
+  }
+  return marks;
+}
+
+std::wstring GraphModel::FunctionLine(std::size_t index) const {
+  const SampledCurve& curve = samples.curves[index];
+  const bool isShown = !std::ranges::all_of(curve, &CurvePoint::IsEmpty);
+  return ListText(data.functions[index].label) + (isShown ? L"" : std::wstring(kNothingShown));
 }
 
 void GraphModel::ToggleTrace() {

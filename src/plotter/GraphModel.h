@@ -22,6 +22,13 @@ struct ReadOut {
   std::optional<double> value;
 };
 
+/// A traced point: the function that it lies on, and its exact place in pixels of the view.
+struct TraceMark {
+  std::size_t function;
+  double column;
+  double row;
+};
+
 /// A graph that is looked at: the shown ranges and their commands, what a pen reads off.
 ///
 /// Commands return the sentence of a refusal, empty after a success; a refused command leaves
@@ -67,6 +74,12 @@ class GraphModel {
   /// A line of the read-out list.
   std::wstring ReadOutLine(std::size_t index) const;
 
+  /// The functions' points at the value of X that was evaluated last, as far as they are shown;
+  /// none while trace is off.
+  std::vector<TraceMark> TraceMarks() const;
+  /// A line of the function list. It says so when nothing of the function is shown.
+  std::wstring FunctionLine(std::size_t index) const;
+
   /// Changes how numbers are written, in labels and read-outs.
   void SetDisplay(DisplayType type, int decimals);
 
@@ -97,10 +110,16 @@ class GraphModel {
     int xMin, xMax, yMin, yMax;
   };
   void BeginCommand();
-  std::wstring Change(const BoundMoves& moves);
-  /// Changes to `wanted` and remembers the ranges before, unless the command only `goesOn` with
-  /// the last one.
-  std::wstring ChangeTo(const PlotRanges& wanted, bool goesOn = false);
+  /// What is special about a command on the ranges.
+  struct ChangeKind {
+    /// It belongs to the last command: the ranges before that one are still those to return to.
+    bool goesOn = false;
+    /// It goes by its formula also where that leads to infinity.
+    bool mayBeInfinite = false;
+  };
+  std::wstring Change(const BoundMoves& moves, const ChangeKind& kind);
+  /// Changes to `wanted` and remembers the ranges before.
+  std::wstring ChangeTo(const PlotRanges& wanted, const ChangeKind& kind);
   /// Shows `wanted`, or returns why not.
   std::wstring Show(const PlotRanges& wanted);
   void Sample();
@@ -119,6 +138,8 @@ class GraphModel {
 
   PenDrag drag;
   bool trace = true;
+  /// The value of X at which the read-outs are the functions' values; no number: they are not.
+  double evaluatedX = 0.0;
   std::vector<ReadOut> readOuts;
   int selectedFunction = 0;
   int selectedReadOut = 0;

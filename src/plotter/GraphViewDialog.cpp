@@ -20,7 +20,6 @@
 #include "display/WideText.h"
 #include "plotter/ColourIcon.h"
 #include "plotter/GraphFile.h"
-#include "plotter/GraphFunction.h"
 #include "plotter/PlotView.h"
 #include "plotter/PlotterOptionsDialog.h"
 #include "toolkit/FileDialogs.h"
@@ -29,12 +28,17 @@
 #include "toolkit/MessageBox.h"
 #include "toolkit/NumberBox.h"
 #include "toolkit/TouchComboBox.h"
+#include "toolkit/TouchHeight.h"
 #include "toolkit/TouchSize.h"
 
 namespace vexa {
 namespace {
 
 constexpr QSize kOpeningSize(400, 520);
+/// The graph's full width and height are to fit the smallest display.
+constexpr int kMargin = 3;
+constexpr int kGap = 3;
+constexpr int kLeastRowHeight = 18;
 constexpr const char* kUsualFileName = "graph";
 /// Leaves the room of the row to the number.
 constexpr int kCalWidth = 56;
@@ -79,6 +83,7 @@ GraphViewDialog::GraphViewDialog(SettingsStore& settingsStore, GraphData shown, 
   Content()->addWidget(view, 1);
   BuildReading();
   BuildButtons();
+  ShrinkRows();
   BuildMenus();
   Refresh();
   resize(kOpeningSize.boundedTo(screen()->availableSize()));
@@ -91,20 +96,19 @@ GraphViewDialog::GraphViewDialog(SettingsStore& settingsStore, GraphData shown, 
 }
 
 void GraphViewDialog::BuildLists() {
-  auto* const row = new QHBoxLayout;
+  QHBoxLayout* const row = NewRow();
   auto* const angle = new QLabel(
       graph.Angle() == AngleType::Degrees ? QStringLiteral("DEG") : QStringLiteral("RAD"), this);
   angle->setObjectName(QStringLiteral("Angle"));
   row->addWidget(angle);
   row->addWidget(functionList, 1);
-  Content()->addLayout(row);
-  Content()->addWidget(readOutList);
+  NewRow()->addWidget(readOutList);
   functionList->setObjectName(QStringLiteral("Functions"));
   functionList->setAccessibleName(QStringLiteral("Functions"));
   readOutList->setObjectName(QStringLiteral("Values"));
   readOutList->setAccessibleName(QStringLiteral("Values"));
   for (std::size_t i = 0; i < graph.Functions().size(); ++i) {
-    functionList->addItem(FromWide(ListText(graph.Functions()[i].label)));
+    functionList->addItem(FromWide(graph.FunctionLine(i)));
     functionList->setItemIcon(static_cast<int>(i), CurveIcon(i));
   }
   connect(functionList, &QComboBox::activated, this, &GraphViewDialog::SelectFunction);
@@ -113,8 +117,15 @@ void GraphViewDialog::BuildLists() {
   connect(readOutList, &TouchComboBox::Opening, this, &GraphViewDialog::RemoveRubberBand);
 }
 
-void GraphViewDialog::BuildReading() {
+QHBoxLayout* GraphViewDialog::NewRow() {
   QHBoxLayout* const row = AddButtonRow();
+  // As high as a finger wants, where there is room.
+  row->addSpacerItem(new QSpacerItem(0, kTouchHeight, QSizePolicy::Fixed, QSizePolicy::Preferred));
+  return row;
+}
+
+void GraphViewDialog::BuildReading() {
+  QHBoxLayout* const row = NewRow();
   auto* const label = new QLabel(QStringLiteral("X ="), this);
   label->setBuddy(xBox);
   xBox->setObjectName(QStringLiteral("X ="));
@@ -139,9 +150,18 @@ void GraphViewDialog::BuildReading() {
 }
 
 void GraphViewDialog::BuildButtons() {
-  QHBoxLayout* const row = AddButtonRow();
+  QHBoxLayout* const row = NewRow();
   AddButton(row, L"Save Graph", this, &GraphViewDialog::Save);
   AddButton(row, L"Close", this, &GraphViewDialog::accept);
+}
+
+void GraphViewDialog::ShrinkRows() {
+  Content()->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  Content()->setSpacing(kGap);
+  for (QWidget* control : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (control->minimumHeight() != kTouchHeight && !qobject_cast<QPushButton*>(control)) continue;
+    GrowToTouchHeight(control, kLeastRowHeight);
+  }
 }
 
 void GraphViewDialog::BuildMenus() {
@@ -170,6 +190,9 @@ void GraphViewDialog::BuildMenus() {
 
 void GraphViewDialog::Refresh() {
   const QSignalBlocker blocker(functionList);
+  for (int i = 0; i < functionList->count(); ++i) {
+    functionList->setItemText(i, FromWide(graph.FunctionLine(static_cast<std::size_t>(i))));
+  }
   functionList->setCurrentIndex(graph.SelectedFunction());
   FillReadOuts();
   if (xBox->text().toStdWString() != graph.xBox) {

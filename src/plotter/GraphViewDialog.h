@@ -4,6 +4,7 @@
 #include "toolkit/Dialog.h"
 
 class QCheckBox;
+class QHBoxLayout;
 class QKeySequence;
 class QLineEdit;
 class QMenuBar;
@@ -34,6 +35,10 @@ class GraphViewDialog : public Dialog {
   void BuildLists();
   void BuildReading();
   void BuildButtons();
+  /// A row beside the graph.
+  QHBoxLayout* NewRow();
+  /// Lets the rows beside the graph shrink, so that it has its full size on the smallest display.
+  void ShrinkRows();
   /// Shows what the model says.
   void Refresh();
   void FillReadOuts();

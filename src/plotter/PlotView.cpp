@@ -1,6 +1,7 @@
 #include "plotter/PlotView.h"
 
 #include <QEvent>
+#include <QFontInfo>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -8,6 +9,7 @@
 #include <cmath>
 #include <utility>
 
+#include "plotter/GraphColours.h"
 #include "plotter/GraphImage.h"
 #include "plotter/PlotArea.h"
 
@@ -18,6 +20,9 @@ using namespace plot_area;
 
 /// The opening size shows each pixel of the view larger than one of the display.
 constexpr qreal kComfortableScale = 1.5;
+/// Traced points are found at a glance, the selected function's first.
+constexpr qreal kMarkRadius = 3;
+constexpr qreal kSelectedMarkRadius = 5;
 /// What a wheel's notch turns by.
 constexpr int kWheelStep = 120;
 /// Beyond every display; what a pen can be dragged to is within.
@@ -39,7 +44,7 @@ PlotView::PlotView(const GraphModel& shownGraph, QWidget* parent)
   setObjectName(QStringLiteral("Graph"));
   setAccessibleName(QStringLiteral("Graph"));
   setFocusPolicy(Qt::StrongFocus);
-  setMinimumSize(kPictureWidth / 2, kPictureHeight / 2);
+  setMinimumSize(kPictureWidth, kPictureHeight);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setCursor(Qt::CrossCursor);
   // A pen that comes back without its button down was released elsewhere.
@@ -81,11 +86,13 @@ void PlotView::paintEvent(QPaintEvent*) {
   const qreal scale = Scale() * ratio;
   const QSize size(DevicePixels(kPictureWidth, scale), DevicePixels(kPictureHeight, scale));
   if (picture.size() != size) {
-    picture = DrawGraphImage(graph, scale, font(), palette().color(QPalette::Window));
+    const ScreenLook look{ratio, QFontInfo(font()).pixelSize() * ratio};
+    picture = DrawGraphImage(graph, scale, font(), palette().color(QPalette::Window), look);
   }
   picture.setDevicePixelRatio(ratio);
   QPainter painter(this);
   painter.drawImage(Origin(), picture);
+  DrawTraceMarks(painter);
   if (graph.Drag().IsShown()) DrawRubberBand(painter);
   if (hasFocus()) {
     painter.setPen(palette().color(QPalette::Highlight));
@@ -109,6 +116,24 @@ void PlotView::DrawRubberBand(QPainter& painter) const {
   painter.setPen(Qt::white);
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(BoxOf(graph.Drag()));
+  painter.restore();
+}
+
+void PlotView::DrawTraceMarks(QPainter& painter) const {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const TraceMark& mark : graph.TraceMarks()) {
+    constexpr qreal kHalf = 0.5;
+    const QPointF centre =
+        Origin() +
+        QPointF(mark.column - kPictureLeft + kHalf, mark.row - kPictureTop + kHalf) * Scale();
+    const Colour& colour = kCurveColours[mark.function];
+    const bool isSelected = static_cast<int>(mark.function) == graph.SelectedFunction();
+    const qreal radius = isSelected ? kSelectedMarkRadius : kMarkRadius;
+    painter.setPen(QPen(Qt::black, 1));
+    painter.setBrush(QColor(colour.red, colour.green, colour.blue));
+    painter.drawEllipse(centre, radius, radius);
+  }
   painter.restore();
 }
 

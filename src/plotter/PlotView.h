@@ -17,7 +17,7 @@ class PlotView : public QWidget {
 
   /// Draws the graph again.
   void ShowGraph();
-  /// Draws what lies over the graph again: the rubber-band box.
+  /// Draws what lies over the graph again: the traced points and the rubber-band box.
   void ShowDrag() { update(); }
   /// Whether the pen is down on the graph.
   bool IsPenDown() const { return penIsDown; }
@@ -51,6 +51,7 @@ class PlotView : public QWidget {
   PixelPoint PixelAt(QPointF position) const;
   QRectF BoxOf(const PenDrag& drag) const;
   void DrawRubberBand(QPainter& painter) const;
+  void DrawTraceMarks(QPainter& painter) const;
 
   const GraphModel& graph;
   /// The graph as it was drawn last; null: it is to be drawn again.

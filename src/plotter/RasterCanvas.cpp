@@ -28,7 +28,11 @@ void RasterCanvas::Fill(const PixelBox& box, Colour colour) {
   }
 }
 
-void RasterCanvas::Line(PixelPoint from, PixelPoint to, Colour colour) {
+void RasterCanvas::Line(PixelPoint from, PixelPoint to, const LineStyle& style) {
+  Join(from, to, style.colour);
+}
+
+void RasterCanvas::Join(PixelPoint from, PixelPoint to, Colour colour) {
   // One pixel for each step along the longer side; the other side takes its step when it is half a
   // pixel behind the ideal line.
   const std::uint8_t entry = NearestEntry(colour);
@@ -60,7 +64,7 @@ void RasterCanvas::Dot(const CurvePoint& point, Colour colour) {
 }
 
 void RasterCanvas::Segment(const CurvePoint& from, const CurvePoint& to, Colour colour) {
-  Line(from.pixel, to.pixel, colour);
+  Join(from.pixel, to.pixel, colour);
 }
 
 void RasterCanvas::Circle(const PixelBox& box, Colour colour) {
@@ -77,7 +81,9 @@ void RasterCanvas::Circle(const PixelBox& box, Colour colour) {
   }
 }
 
-void RasterCanvas::Text(PixelPoint corner, std::wstring_view text, Colour colour) {
+void RasterCanvas::Text(PixelPoint anchor, PixelPoint offset, std::wstring_view text,
+                        Colour colour) {
+  PixelPoint corner{anchor.x + offset.x, anchor.y + offset.y};
   const std::uint8_t entry = NearestEntry(colour);
   for (const wchar_t character : text) {
     const bitmap_font::Glyph& glyph = bitmap_font::GlyphOf(character);

@@ -118,8 +118,8 @@ void SvgCanvas::Fill(const PixelBox& box, Colour colour) {
   body += Rectangle(box, colour);
 }
 
-void SvgCanvas::Line(PixelPoint from, PixelPoint to, Colour colour) {
-  Fill(BoxOfLine(from, to), colour);
+void SvgCanvas::Line(PixelPoint from, PixelPoint to, const LineStyle& style) {
+  Fill(BoxOfLine(from, to), style.colour);
 }
 
 void SvgCanvas::Dot(const CurvePoint& point, Colour colour) {
@@ -137,9 +137,10 @@ void SvgCanvas::Circle(const PixelBox& box, Colour colour) {
                               "fill", Hex(colour)});
 }
 
-void SvgCanvas::Text(PixelPoint corner, std::wstring_view text, Colour colour) {
+void SvgCanvas::Text(PixelPoint anchor, PixelPoint offset, std::wstring_view text, Colour colour) {
   EndPath();
-  body += Join({"<text x=\"", Number(corner.x), "\" y=\"", Number(corner.y + kBaseLine),
+  body += Join({"<text x=\"", Number(anchor.x + offset.x), "\" y=\"",
+                Number(anchor.y + offset.y + kBaseLine),
                 "\" font-family=\"Tahoma, sans-serif\" font-size=\"", Number(kTextSize),
                 "\" fill=\"", Hex(colour), "\">", Escaped(text), "</text>\n"});
 }

@@ -19,8 +19,8 @@ using test::Opened;
 class RecordingCanvas : public Canvas {
  public:
   void Fill(const PixelBox& box, Colour colour) override { Add("fill", colour) << At(box); }
-  void Line(PixelPoint from, PixelPoint to, Colour colour) override {
-    Add("line", colour) << At(from) << At(to);
+  void Line(PixelPoint from, PixelPoint to, const LineStyle& style) override {
+    Add("line", style.colour) << At(from) << At(to);
   }
   void Dot(const CurvePoint& point, Colour colour) override {
     Add("dot", colour) << At(point.pixel);
@@ -29,8 +29,9 @@ class RecordingCanvas : public Canvas {
     Add("segment", colour) << At(from.pixel) << At(to.pixel);
   }
   void Circle(const PixelBox& box, Colour colour) override { Add("circle", colour) << At(box); }
-  void Text(PixelPoint corner, std::wstring_view text, Colour colour) override {
-    Add("text", colour) << At(corner) << " " << test::Narrow(text);
+  void Text(PixelPoint anchor, PixelPoint offset, std::wstring_view text, Colour colour) override {
+    Add("text", colour) << At(PixelPoint{anchor.x + offset.x, anchor.y + offset.y}) << " "
+                        << test::Narrow(text);
   }
 
   /// The drawing steps whose text begins with `start`.

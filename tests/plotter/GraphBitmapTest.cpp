@@ -93,11 +93,11 @@ TEST(GraphBitmap, ColoursAreTheNearestEntries) {
 
 TEST(SvgCanvas, WritesWhatIsDrawn) {
   SvgCanvas canvas({2, 87, 236, 263});
-  canvas.Line({4, 100}, {10, 100}, {192, 192, 192});
+  canvas.Line({4, 100}, {10, 100}, {{192, 192, 192}, 1});
   canvas.Segment({{4, 100}, 100.25}, {{5, 98}, 98.5}, {255, 0, 0});
   canvas.Dot({{6, 97}, 97.0}, {255, 0, 0});
   canvas.Circle({1, 2, 5, 6}, {0, 0, 255});
-  canvas.Text({9, 105}, L"<&> \x416\x1", {0, 0, 0});
+  canvas.Text({9, 105}, {0, 0}, L"<&> \x416\x1", {0, 0, 0});
   EXPECT_EQ(canvas.Document(),
             "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"234\" height=\"176\" "
             "viewBox=\"2 87 234 176\">\n"

@@ -455,5 +455,54 @@ TEST(GraphModel, OptionsTakeRangesAndFlags) {
   EXPECT_EQ(graph.Options(), PlotOptions());
 }
 
+TEST(GraphModel, MarksLieOnTheCurves) {
+  GraphModel graph = Opened(Graph({L"x", L"sqrt(x)", L"x+100"}));
+  graph.PenDown({165, 120});
+  // 4 on both axes: of 230 columns the last sample stands in the 229th.
+  std::vector<TraceMark> marks = graph.TraceMarks();
+  ASSERT_EQ(marks.size(), 2u) << "the third is not shown";
+  EXPECT_EQ(marks[0].function, 0u);
+  EXPECT_DOUBLE_EQ(marks[0].column, 4 + 14 / 20.0 * 229);
+  EXPECT_DOUBLE_EQ(marks[0].row, 260 - 170 / 20.0 * 14);
+  EXPECT_EQ(marks[1].function, 1u);
+  EXPECT_DOUBLE_EQ(marks[1].row, 260 - 170 / 20.0 * 12);
+  // They stay at their values, whatever is shown.
+  graph.MoveUp();
+  EXPECT_DOUBLE_EQ(graph.TraceMarks().at(0).row, 260 - 170 / 20.0 * 10);
+  for (int n = 0; n < 5; ++n) graph.MoveLeft();
+  EXPECT_TRUE(graph.TraceMarks().empty());
+  graph.Reset();
+  // Where a function has no value, there is none.
+  graph.xBox = L"-1";
+  graph.Cal();
+  EXPECT_EQ(graph.TraceMarks().size(), 1u);
+  // A box that holds no number changes nothing.
+  graph.xBox = L"one";
+  graph.Cal();
+  EXPECT_EQ(graph.TraceMarks().size(), 1u);
+}
+
+TEST(GraphModel, WithoutTraceNothingIsMarked) {
+  GraphModel graph = Opened(Graph({L"x"}));
+  EXPECT_EQ(graph.TraceMarks().size(), 1u);
+  graph.ToggleTrace();
+  EXPECT_TRUE(graph.TraceMarks().empty());
+  graph.PenDown({165, 120});
+  EXPECT_TRUE(graph.TraceMarks().empty());
+  graph.ToggleTrace();
+  EXPECT_TRUE(graph.TraceMarks().empty()) << "what was read is a point, not a value";
+}
+
+TEST(GraphModel, AFunctionWithoutAPointSaysSo) {
+  GraphModel graph = Opened(Graph({L"x", L"sqrt(0-1-x^2)", L"x+15"}));
+  EXPECT_EQ(graph.FunctionLine(0), L"R:F1(X)=x");
+  EXPECT_EQ(graph.FunctionLine(1), L"G:F2(x)=sqrt(0-1-x^2) (no value in this range)");
+  EXPECT_EQ(graph.FunctionLine(2), L"B:F3(X)=x+15");
+  for (int n = 0; n < 3; ++n) graph.MoveDown();
+  EXPECT_EQ(graph.FunctionLine(2), L"B:F3(X)=x+15 (no value in this range)");
+  graph.Reset();
+  EXPECT_EQ(graph.FunctionLine(2), L"B:F3(X)=x+15");
+}
+
 }  // namespace
 }  // namespace vexa

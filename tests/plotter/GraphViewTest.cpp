@@ -48,6 +48,7 @@ class GraphViewTest : public QObject {
   void TextAndCheckAreTakenHoweverTheyAreSet();
   void TabGoesAsRead();
   void OptionsTabAsRead();
+  void OptionsShowExponentsAndKeepWhatTheyCut();
   void EveryChangeIsDrawn();
   void ATapTraces();
   void ATapWithoutTraceReadsThePoint();
@@ -73,6 +74,11 @@ class GraphViewTest : public QObject {
   void TargetsAreLargeEnough();
   void FitsASmallDisplay();
   void DarkColoursLeaveTheGraphWhite();
+  void NothingIsDrawnBeyondTheFrame();
+  void PensAndLettersStayFine();
+  void ALargeGraphHasNumbers();
+  void TheTracedPointIsMarked();
+  void AFunctionWithoutAPointSaysSo();
 
  private:
   void Open(const GraphData& data);
@@ -82,6 +88,11 @@ class GraphViewTest : public QObject {
   QComboBox* Values() const { return view->findChild<QComboBox*>(QStringLiteral("Values")); }
   QLineEdit* XBox() const { return view->findChild<QLineEdit*>(QStringLiteral("X =")); }
   QCheckBox* Trace() const { return view->findChild<QCheckBox*>(QStringLiteral("Trace")); }
+  /// The graph as a window shows it at this scale.
+  QImage Shown(const GraphData& data, qreal scale, qreal ratio = 1) const {
+    const ScreenLook look{ratio, 13 * ratio};
+    return DrawGraphImage(test::Opened(data), scale, view->font(), Qt::cyan, look);
+  }
   /// The middle of a pixel of the view, on the widget.
   QPoint At(int x, int y) const;
   void Drag(QPoint from, QPoint to, bool release = true);
@@ -321,6 +332,38 @@ void GraphViewTest::OptionsTabAsRead() {
                                  "OK", "Cancel"}));
 }
 
+void GraphViewTest::OptionsShowExponentsAndKeepWhatTheyCut() {
+  const PlotRanges exact{-1.31186256915e-05, 1.31186256915e-05, -1234567890123.4567, 1e300 / 3};
+  Open(test::Graph({L"x"}, exact));
+  Command("Graph Options");
+  auto* const options = OpenWindow<PlotterOptionsDialog>(view);
+  const auto box = [&](const char* name) {
+    return options->findChild<QLineEdit*>(QString::fromLatin1(name));
+  };
+  for (const int width : {240, 300, 1000, 240}) {
+    options->resize(width, options->height());
+    QTest::qWait(1);
+    for (const char* name : {"X min", "X max", "Y min", "Y max"}) {
+      const QString text = box(name)->text();
+      const int room = box(name)->width() - 8;
+      QVERIFY2(box(name)->fontMetrics().horizontalAdvance(text) <= room, qPrintable(text));
+      QVERIFY2(width == 1000 || text.contains(u'e'), qPrintable(text));
+    }
+  }
+  QVERIFY(box("X max")->toolTip() == QStringLiteral("1.31186256915e-05"));
+  Press(options, QStringLiteral("OK"));
+  QCOMPARE(Graph().Ranges(), exact);
+  // What was edited counts as it stands.
+  Command("Graph Options");
+  auto* const again = OpenWindow<PlotterOptionsDialog>(view);
+  auto* const xMax = again->findChild<QLineEdit*>(QStringLiteral("X max"));
+  Type(xMax, QStringLiteral("2"));
+  again->resize(400, again->height());
+  QTest::qWait(1);
+  Press(again, QStringLiteral("OK"));
+  QCOMPARE(Graph().Ranges(), (PlotRanges{exact.xMin, 2, exact.yMin, exact.yMax}));
+}
+
 void GraphViewTest::EveryChangeIsDrawn() {
   QImage shown = Plot()->grab().toImage();
   const auto differs = [&] {
@@ -398,7 +441,8 @@ void GraphViewTest::ASmallDragDoesNotZoom() {
 }
 
 void GraphViewTest::TheBoxLeavesThePictureAsItWas() {
-  // The tap that begins a drag writes nothing into the picture.
+  // Without trace the tap that begins a drag writes nothing into the picture.
+  Trace()->toggle();
   const QImage before = Plot()->grab().toImage();
   Drag(At(50, 100), At(150, 105), false);
   const QImage during = Plot()->grab().toImage();
@@ -656,10 +700,18 @@ void GraphViewTest::TargetsAreLargeEnough() {
 }
 
 void GraphViewTest::FitsASmallDisplay() {
-  view->resize(240, 320);
+  // What a window's title leaves of 240 to 320.
+  view->resize(240, 300);
   QTest::qWait(1);
-  QVERIFY2(view->width() <= 240 && view->height() <= 320,
+  QVERIFY2(view->width() <= 240 && view->height() <= 300,
            qPrintable(QStringLiteral("%1 x %2").arg(view->width()).arg(view->height())));
+  QVERIFY2(Plot()->width() >= 234 && Plot()->height() >= 176, "the picture's full size");
+  for (const QWidget* control :
+       view->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (!control->isVisible() || control->isWindow()) continue;
+    QVERIFY2(view->rect().contains(control->geometry()), qPrintable(control->objectName()));
+    QVERIFY2(control->height() >= 16, qPrintable(control->objectName()));
+  }
   QTest::mouseClick(Plot(), Qt::LeftButton, {}, At(119, 120));
   QVERIFY(std::abs(XBox()->text().toDouble()) < 0.2);
 }
@@ -674,6 +726,122 @@ void GraphViewTest::DarkColoursLeaveTheGraphWhite() {
   view->setPalette(dark);
   QCOMPARE(background(), QColor(Qt::white));
   QCOMPARE(Plot()->grab().toImage().pixelColor(2, Plot()->height() - 3), QColor(Qt::black));
+}
+
+void GraphViewTest::NothingIsDrawnBeyondTheFrame() {
+  const GraphData data = test::Graph({L"x", L"tan(x)*9", L"10-x/9"});
+  for (qreal scale = 1; scale < 5; scale += 0.37) {
+    for (const qreal ratio : {1.0, 1.25, 2.0}) {
+      const QImage image = Shown(data, scale, ratio);
+      // From each side in, nothing but the margin and white comes before the frame.
+      const auto isClean = [&](QPoint from, QPoint step) {
+        QPoint at = from;
+        while (image.rect().contains(at)) {
+          const QColor colour = image.pixelColor(at);
+          if (colour == QColor(Qt::black)) return true;
+          if (colour != QColor(Qt::cyan) && colour != QColor(Qt::white)) return false;
+          at += step;
+        }
+        return false;
+      };
+      const QByteArray where = QByteArray::number(scale) + " at " + QByteArray::number(ratio);
+      for (int x = qCeil(4 * scale); x < 230 * scale; ++x) {
+        QVERIFY2(isClean({x, 0}, {0, 1}), where);
+        QVERIFY2(isClean({x, image.height() - 1}, {0, -1}), where);
+      }
+      for (int y = qCeil(5 * scale); y < 171 * scale; ++y) {
+        QVERIFY2(isClean({0, y}, {1, 0}), where);
+        QVERIFY2(isClean({image.width() - 1, y}, {-1, 0}), where);
+      }
+    }
+  }
+}
+
+void GraphViewTest::PensAndLettersStayFine() {
+  GraphData data = test::Graph({L"x*0-5"});
+  data.options.coordinates = false;
+  for (const qreal ratio : {1.0, 2.0}) {
+    const QImage image = Shown(data, 4 * ratio, ratio);
+    const auto thickness = [&](const QColor& colour, int x) {
+      int count = 0;
+      for (int y = 0; y < image.height(); ++y) count += image.pixelColor(x, y) == colour;
+      return count;
+    };
+    // Down a column between lines of the grid, eight lines of the grid run across, the ninth below
+    // the axis.
+    const int x = qRound(60 * 4 * ratio);
+    QCOMPARE(thickness(QColor(192, 192, 192), x), qRound(8 * ratio));
+    QCOMPARE(thickness(QColor(0, 130, 132), x), qFloor(1.5 * ratio));
+    QVERIFY(thickness(QColor(255, 0, 0), x) <= 2 * ratio);
+  }
+  // In a picture of its own everything grows.
+  const QImage picture = DrawGraphImage(test::Opened(data), 4, view->font(), Qt::cyan);
+  int grey = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    grey += picture.pixelColor(240, y) == QColor(192, 192, 192);
+  }
+  QCOMPARE(grey, 8 * 4);
+  // The range labels' column is no higher than four rows of the interface's letters.
+  data.options = {false, false, true};
+  const QImage labelled = Shown(data, 4);
+  int lowest = 0;
+  for (int y = 40; y < 70 * 4; ++y) {
+    for (int x = 10 * 4; x < 40 * 4; ++x) {
+      if (labelled.pixelColor(x, y).lightness() < 100) lowest = y;
+    }
+  }
+  QVERIFY2(lowest > 60 && lowest < 3 * 4 + 5 * 20, QByteArray::number(lowest));
+}
+
+void GraphViewTest::ALargeGraphHasNumbers() {
+  const auto numbers = [this](PlotOptions options, qreal scale) {
+    GraphData data = test::Graph({});
+    data.options = options;
+    const QImage image = Shown(data, scale);
+    // Along the lower side only numbers are darker than the grid.
+    int dark = 0;
+    for (int x = qRound(6 * scale); x < 228 * scale; ++x) {
+      if (std::abs(x - 116 * scale) < 3 * scale) continue;
+      for (int y = qRound(172 * scale) - 14; y < qRound(172 * scale) - 2; ++y) {
+        dark += image.pixelColor(x, y).lightness() < 150;
+      }
+    }
+    return dark;
+  };
+  QVERIFY(numbers({true, true, true}, 4) > 50);
+  QCOMPARE(numbers({true, true, true}, 1), 0);
+  QCOMPARE(numbers({false, true, true}, 4), 0);
+  QCOMPARE(numbers({true, true, false}, 4), 0);
+}
+
+void GraphViewTest::TheTracedPointIsMarked() {
+  Open(test::Graph({L"x"}));
+  QTest::mouseClick(Plot(), Qt::LeftButton, {}, At(165, 120));
+  const TraceMark mark = Graph().TraceMarks().at(0);
+  const QPoint place = At(qRound(mark.column), qRound(mark.row));
+  const auto around = [&] {
+    const QImage shown = Plot()->grab().toImage();
+    int red = 0;
+    for (int dx = -4; dx <= 4; ++dx) {
+      for (int dy = -4; dy <= 4; ++dy) {
+        red += shown.pixelColor((place + QPoint(dx, dy)) * Plot()->devicePixelRatioF()) ==
+               QColor(255, 0, 0);
+      }
+    }
+    return red;
+  };
+  const int marked = around();
+  Press(view, QStringLiteral("Trace"));
+  QVERIFY2(marked > around() + 20, qPrintable(QString::number(marked)));
+}
+
+void GraphViewTest::AFunctionWithoutAPointSaysSo() {
+  Open(test::Graph({L"x", L"x+15"}));
+  QCOMPARE(Functions()->itemText(1), QStringLiteral("G:F2(x)=x+15"));
+  for (int n = 0; n < 3; ++n) Command("Move Down");
+  QCOMPARE(Functions()->itemText(1), QStringLiteral("G:F2(x)=x+15 (no value in this range)"));
+  Command("Reset");
+  QCOMPARE(Functions()->itemText(1), QStringLiteral("G:F2(x)=x+15"));
 }
 
 }  // namespace vexa

@@ -53,11 +53,11 @@ TEST(RasterCanvas, BoxesAreHalfOpenAndClipped) {
 
 TEST(RasterCanvas, LinesDrawTheirFirstPixelAndNotTheirLast) {
   RasterCanvas canvas({0, 0, 6, 4});
-  canvas.Line({1, 0}, {5, 0}, kBlack);
-  canvas.Line({4, 3}, {0, 3}, kRed);
-  canvas.Line({0, 2}, {0, 0}, kRed);
-  canvas.Line({5, 1}, {5, 3}, kBlack);
-  canvas.Line({3, 2}, {3, 2}, kBlack);
+  canvas.Line({1, 0}, {5, 0}, {kBlack, 1});
+  canvas.Line({4, 3}, {0, 3}, {kRed, 1});
+  canvas.Line({0, 2}, {0, 0}, {kRed, 1});
+  canvas.Line({5, 1}, {5, 3}, {kBlack, 1});
+  canvas.Line({3, 2}, {3, 2}, {kBlack, 1});
   EXPECT_EQ(Rows(canvas), ".####.\nr....#\nr....#\n.rrrr.\n");
 }
 
@@ -89,7 +89,7 @@ TEST(RasterCanvas, CirclesHaveNoCorners) {
 
 TEST(RasterCanvas, TextStandsBelowItsCorner) {
   RasterCanvas canvas({0, 0, 14, 12});
-  canvas.Text({1, 0}, L"y1", kBlack);
+  canvas.Text({3, 1}, {-2, -1}, L"y1", kBlack);
   EXPECT_EQ(Rows(canvas),
             "..............\n"
             "..............\n"
