@@ -38,9 +38,10 @@ QPointF PainterCanvas::Corner(int x, int y) const {
   return {qRound((x - area.left) * scale) * 1.0, qRound((y - area.top) * scale) * 1.0};
 }
 
-QPointF PainterCanvas::Place(const CurvePoint& point) const {
+QPointF PainterCanvas::Place(const CurvePoint& point, double beyond) const {
   constexpr qreal kHalf = 0.5;
-  return {(point.pixel.x - area.left + kHalf) * scale, (point.row - area.top + kHalf) * scale};
+  return {(point.pixel.x - area.left + kHalf) * scale,
+          (point.row + beyond - area.top + kHalf) * scale};
 }
 
 qreal PainterCanvas::LineWidth(qreal widest) const {
@@ -98,7 +99,7 @@ void PainterCanvas::Dot(const CurvePoint& point, Colour colour) {
 
 void PainterCanvas::Segment(const CurvePoint& from, const CurvePoint& to, Colour colour) {
   SetStroke(colour);
-  painter.drawLine(Place(from), Place(to));
+  painter.drawLine(Place(from, from.beyond), Place(to, to.beyond));
 }
 
 void PainterCanvas::Circle(const PixelBox& box, Colour colour) {

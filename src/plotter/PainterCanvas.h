@@ -47,7 +47,8 @@ class PainterCanvas : public Canvas {
 
  private:
   QPointF Corner(int x, int y) const;
-  QPointF Place(const CurvePoint& point) const;
+  /// The place of a point whose value is `beyond` rows beyond it.
+  QPointF Place(const CurvePoint& point, double beyond = 0) const;
   /// The thickness of a straight line: whole pixels of the device.
   qreal LineWidth(qreal widest) const;
   /// Where a line of this thickness along the area's row or column `position` begins.

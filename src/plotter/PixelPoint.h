@@ -15,6 +15,9 @@ struct PixelPoint {
 struct CurvePoint {
   PixelPoint pixel;
   double row = 0.0;
+  /// A point on an edge, where the curve leaves the area: how many rows beyond the edge its value
+  /// lies, below 0 upwards. A fine canvas draws the curve on to there and cuts it off.
+  double beyond = 0.0;
 
   constexpr bool IsEmpty() const { return pixel.y == 0; }
 };

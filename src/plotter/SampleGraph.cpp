@@ -1,5 +1,6 @@
 #include "plotter/SampleGraph.h"
 
+#include <algorithm>
 #include <bitset>
 #include <cmath>
 
@@ -11,6 +12,8 @@ namespace {
 using namespace plot_area;
 
 constexpr int kMiddleRow = kTop + kHeight / 2;
+/// Rows beyond an edge that make no difference any more.
+constexpr double kFarthest = 1e5;
 
 /// Samples one function after the other.
 class Sampler {
@@ -49,15 +52,25 @@ class Sampler {
 
   /// The curve comes back into the area at `i`: it starts at the edge, one column before. A curve
   /// that comes in on the middle row has no such point.
-  static void StoreEntry(SampledCurve& curve, std::size_t i) {
-    if (curve[i].pixel.y < kMiddleRow) curve[i - 1] = PointAt(i - 1, kTop);
-    if (curve[i].pixel.y > kMiddleRow) curve[i - 1] = PointAt(i - 1, kBottom);
+  void StoreEntry(SampledCurve& curve, std::size_t i) const {
+    if (curve[i].pixel.y < kMiddleRow) curve[i - 1] = EdgePoint(i - 1, kTop);
+    if (curve[i].pixel.y > kMiddleRow) curve[i - 1] = EdgePoint(i - 1, kBottom);
   }
 
   /// The curve leaves the area at `i`: it ends at the edge. A row that is no number has none.
   void StoreExit(SampledCurve& curve, std::size_t i) const {
-    if (rows[i] < kTop) curve[i] = PointAt(i, kTop);
-    if (rows[i] >= kBottom + 1) curve[i] = PointAt(i, kBottom);
+    if (rows[i] < kTop) curve[i] = EdgePoint(i, kTop);
+    if (rows[i] >= kBottom + 1) curve[i] = EdgePoint(i, kBottom);
+  }
+
+  /// The point of sample `i`, which lies outside, on an edge. A curve that jumped over the whole
+  /// area comes from the edge itself.
+  CurvePoint EdgePoint(std::size_t i, int edge) const {
+    CurvePoint point = PointAt(i, edge);
+    const double beyond = rows[i] - edge;
+    const bool isOnThisSide = edge == kTop ? beyond < 0 : beyond > 0;
+    if (isOnThisSide) point.beyond = std::clamp(beyond, -kFarthest, kFarthest);
+    return point;
   }
 
   static CurvePoint PointAt(std::size_t i, double exactRow) {

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include "plotter/GraphMapping.h"
 #include "plotter/Graphs.h"
 
 namespace vexa {
@@ -68,6 +69,31 @@ TEST(SampleGraph, ACurveEndsAndStartsAtTheEdges) {
   EXPECT_GT(value(last), 10);
   EXPECT_EQ(curve[last].pixel.y, kTop);
   EXPECT_LT(value(last - 1), 10);
+}
+
+TEST(SampleGraph, EdgePointsKnowHowFarBeyondTheCurveIs) {
+  for (const wchar_t* text : {L"4*x", L"0-4*x", L"x^2-20", L"99*sin(x)"}) {
+    const GraphModel graph = test::Opened(Graph({text}));
+    const SampledCurve& curve = graph.Samples().curves[0];
+    int edges = 0;
+    for (std::size_t i = 0; i < kSampleCount; ++i) {
+      const CurvePoint& point = curve[i];
+      if (point.IsEmpty() || point.beyond == 0.0) continue;
+      ++edges;
+      GraphModel reader = graph;
+      reader.xBox = std::to_wstring(SampleX(i, -10, 10));
+      reader.Cal();
+      const double row = graph_mapping::ExactRow(*reader.ReadOuts()[0].value, graph.Ranges());
+      // The box holds six decimals.
+      EXPECT_NEAR(point.row + point.beyond, row, 0.01) << i;
+      EXPECT_EQ(point.row, point.beyond < 0 ? kTop : kBottom);
+    }
+    EXPECT_GE(edges, 2);
+  }
+  // However far: it stays a place.
+  for (const CurvePoint& point : Sampled(L"10^(x*30)-10^(0-x*30)")) {
+    EXPECT_LE(std::abs(point.beyond), 1e5);
+  }
 }
 
 TEST(SampleGraph, ABranchThatLeavesAtTheTopIsFollowedByOneFromTheBottom) {
