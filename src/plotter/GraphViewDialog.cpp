@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -275,6 +276,13 @@ void GraphViewDialog::RemoveRubberBand() {
 
 void GraphViewDialog::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && view->IsPenDown()) return view->DropPen();
+  const QString text = event->text();
+  if (text.size() == 1 && (text.front().isDigit() || text == QStringLiteral("."))) {
+    xBox->setFocus();
+    xBox->selectAll();
+    QCoreApplication::sendEvent(xBox, event);
+    return;
+  }
   Dialog::keyPressEvent(event);
 }
 

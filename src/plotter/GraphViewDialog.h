@@ -27,7 +27,7 @@ class GraphViewDialog : public Dialog {
   const GraphModel& Graph() const { return graph; }
 
  protected:
-  /// Escape drops a drag first.
+  /// Escape drops a drag first. A number that is typed where nothing takes it is one for X.
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -95,6 +95,8 @@ void PlotterScreen::BuildList() {
   label->setBuddy(list);
   list->setObjectName(QStringLiteral("F(X) ="));
   list->setAccessibleName(QStringLiteral("F(X) ="));
+  // A list that was opened by a click and closed again leaves the focus where the user types.
+  list->setFocusPolicy(Qt::TabFocus);
   row->addWidget(label);
   GrowToTouchHeight(list, kLeastListHeight);
   row->addWidget(list, 1);

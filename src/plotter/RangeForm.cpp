@@ -43,6 +43,8 @@ RangeForm::RangeForm(int leastHeight, QWidget* parent) : QWidget(parent) {
     checks[i] = new QCheckBox(caption, this);
     checks[i]->setObjectName(caption);
     checks[i]->setAccessibleName(caption);
+    // A click leaves the focus where the user types.
+    checks[i]->setFocusPolicy(Qt::TabFocus);
     GrowToTouchHeight(checks[i], leastHeight);
     row->addWidget(checks[i]);
   }

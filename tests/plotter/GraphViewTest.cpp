@@ -16,6 +16,7 @@
 #include "display/WideText.h"
 #include "plotter/GraphBitmap.h"
 #include "plotter/GraphImage.h"
+#include "plotter/GraphMapping.h"
 #include "plotter/GraphViewDialog.h"
 #include "plotter/Graphs.h"
 #include "plotter/PlotView.h"
@@ -47,6 +48,7 @@ class GraphViewTest : public QObject {
   void ABoxGoesWhenTheReleaseNeverComes();
   void TextAndCheckAreTakenHoweverTheyAreSet();
   void TabGoesAsRead();
+  void TypedNumbersAreForX();
   void OptionsTabAsRead();
   void OptionsShowExponentsAndKeepWhatTheyCut();
   void EveryChangeIsDrawn();
@@ -75,6 +77,7 @@ class GraphViewTest : public QObject {
   void FitsASmallDisplay();
   void DarkColoursLeaveTheGraphWhite();
   void NothingIsDrawnBeyondTheFrame();
+  void CurvesLeaveAtTheirTrueCrossing();
   void PensAndLettersStayFine();
   void ALargeGraphHasNumbers();
   void TheTracedPointIsMarked();
@@ -317,6 +320,24 @@ void GraphViewTest::TabGoesAsRead() {
   } while (QApplication::focusWidget() != Functions() && reached.size() < 20);
   QCOMPARE(reached, QStringList({"Functions", "Values", "Graph", "X =", "Cal", "Trace",
                                  "Save Graph", "Close"}));
+}
+
+void GraphViewTest::TypedNumbersAreForX() {
+  for (const char* name : {"Graph", "Trace", "Cal", "Save Graph"}) {
+    auto* const control = view->findChild<QWidget*>(QString::fromLatin1(name));
+    control->setFocus();
+    QTest::keyClick(control, Qt::Key_3);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral(".5"));
+    QVERIFY2(XBox()->hasFocus(), name);
+    QCOMPARE(XBox()->text(), QStringLiteral("3.5"));
+    QTest::keyClick(XBox(), Qt::Key_Return);
+    QCOMPARE(Values()->itemText(0), QStringLiteral("R:F1(X) = 7"));
+    XBox()->setText(QStringLiteral("0"));
+  }
+  // A list searches its entries.
+  Functions()->setFocus();
+  QTest::keyClick(Functions(), Qt::Key_3);
+  QVERIFY(Functions()->hasFocus());
 }
 
 void GraphViewTest::OptionsTabAsRead() {
@@ -754,6 +775,31 @@ void GraphViewTest::NothingIsDrawnBeyondTheFrame() {
         QVERIFY2(isClean({image.width() - 1, y}, {-1, 0}), where);
       }
     }
+  }
+}
+
+void GraphViewTest::CurvesLeaveAtTheirTrueCrossing() {
+  // Forty rows for each column.
+  GraphData data = test::Graph({L"60*x+1"});
+  data.options = {false, true, false};
+  constexpr int kScale = 8;
+  const QImage image = Shown(data, kScale);
+  for (const int row : {91, 258}) {
+    const double value = 10 - (row - 90) / 8.5;
+    const double column = graph_mapping::ExactColumn((value - 1) / 60, data.ranges);
+    const int y = (row - 87) * kScale + kScale / 2;
+    const double expected = (column - 2 + 0.5) * kScale;
+    double sum = 0;
+    int count = 0;
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor colour = image.pixelColor(x, y);
+      if (colour.red() < 200 || colour.green() > 100) continue;
+      sum += x + 0.5;
+      ++count;
+    }
+    QVERIFY(count > 0);
+    QVERIFY2(std::abs(sum / count - expected) < 1.5,
+             qPrintable(QStringLiteral("%1 for %2").arg(sum / count).arg(expected)));
   }
 }
 

@@ -46,6 +46,7 @@ class PlotterScreenTest : public QObject {
   void ListsShowTheFrontOfALongFunction();
   void PbListsTheNewestFirst();
   void PbListsEmptyEntriesToo();
+  void ClicksLeaveTheFocusWhereTheUserTypes();
   void PlotOpensTheGraph();
   void EnterPlots();
   void PlotSaysThatABoxIsNoNumber();
@@ -327,6 +328,23 @@ void PlotterScreenTest::PbListsTheNewestFirst() {
   menu->setActiveAction(menu->actions().at(1));
   QTest::keyClick(menu, Qt::Key_Return);
   QCOMPARE(Field(), QStringLiteral("2*x+123456789012"));
+}
+
+void PlotterScreenTest::ClicksLeaveTheFocusWhereTheUserTypes() {
+  SetField(QStringLiteral("x"));
+  PressKey("A");
+  for (QWidget* const edit : {static_cast<QWidget*>(field), Control("X max")}) {
+    edit->setFocus();
+    for (const char* option : {"Grid", "Line", "Coordinates"}) {
+      PressKey(option);
+      QVERIFY2(edit->hasFocus(), option);
+    }
+    QTest::mouseClick(List(), Qt::LeftButton);
+    QTRY_VERIFY(List()->view()->isVisible());
+    QTest::keyClick(List()->view(), Qt::Key_Escape);
+    QTRY_VERIFY(!List()->view()->isVisible());
+    QVERIFY(edit->hasFocus());
+  }
 }
 
 void PlotterScreenTest::PbListsEmptyEntriesToo() {
