@@ -3,6 +3,8 @@
 #include <signal.h>
 
 #include <QApplication>
+#include <QTimer>
+#include <chrono>
 
 #include "app/MainFrame.h"
 #include "app/SettingsSaver.h"
@@ -19,13 +21,18 @@ namespace {
 
 /// Where the window system looks for the permission to take the focus.
 constexpr const char* kActivationToken = "XDG_ACTIVATION_TOKEN";
+constexpr std::chrono::seconds kLongestStart{3};
+constexpr const char* kBesideAnother =
+    "Another copy of this program runs and does not answer. This one was started beside it.";
 
 }  // namespace
 
 int Application::Run(int argc, char** argv) {
-  // First of all: a second copy ends at once, without touching the settings.
+  // First of all: a second copy ends without touching the settings. Its place is free when
+  // everything below has gone, the last settings saved.
   SingleInstance instance;
-  if (!instance.Claim()) return 0;
+  const SingleInstance::Role role = instance.Claim();
+  if (role == SingleInstance::Role::Second) return 0;
 
   // A file that may not grow further is a write that fails, and no reason to die.
   signal(SIGXFSZ, SIG_IGN);
@@ -44,7 +51,10 @@ int Application::Run(int argc, char** argv) {
   SettingsSaver saver(store);
   MainFrame frame(store);
   QObject::connect(&saver, &SettingsSaver::NoticeRaised, &frame, &MainFrame::ShowNotice);
-  QObject::connect(&frame, &MainFrame::Closed, &application, [] { QCoreApplication::exit(0); });
+  QObject::connect(&frame, &MainFrame::Closed, &application, [&instance] {
+    instance.StopListening();
+    QCoreApplication::exit(0);
+  });
   QObject::connect(&termination, &TerminationSignals::TerminationRequested, &frame,
                    &MainFrame::Exit);
   QObject::connect(&instance, &SingleInstance::FrontRequested, &frame,
@@ -52,7 +62,11 @@ int Application::Run(int argc, char** argv) {
                      if (!activationToken.isEmpty()) qputenv(kActivationToken, activationToken);
                      frame.BringToFront();
                    });
-  instance.Listen();
+  // Not before it can answer: who asks meanwhile waits. A window that is not painted, because it
+  // starts minimised, can answer too.
+  QObject::connect(&frame, &MainFrame::Started, &instance, &SingleInstance::Listen);
+  QTimer::singleShot(kLongestStart, &instance, &SingleInstance::Listen);
+  if (role == SingleInstance::Role::Beside) frame.ShowNotice(QString::fromLatin1(kBesideAnother));
   frame.show();
   return application.exec();
 }

@@ -105,6 +105,7 @@ void MainFrame::paintEvent(QPaintEvent*) {
 
 void MainFrame::ShowFirstScreen() {
   SwitchMode(modeCode);
+  emit Started();
 }
 
 void MainFrame::resizeEvent(QResizeEvent*) {

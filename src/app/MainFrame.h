@@ -32,6 +32,8 @@ class MainFrame : public QWidget {
   void BringToFront();
 
  signals:
+  /// The first screen is there.
+  void Started();
   void Closed();
 
  protected:

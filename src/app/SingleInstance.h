@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <chrono>
+#include <filesystem>
 #include <memory>
-#include <string>
+
+#include "files/FileLock.h"
 
 class QSocketNotifier;
 
@@ -10,32 +13,45 @@ namespace vexa {
 
 /// Makes sure that a user runs one copy of the program.
 ///
-/// A named pipe in a folder that only this user may enter carries a lock that ends with the process
-/// that holds it, however it ends, so nothing is left to block the next start. A second copy writes
-/// one line into the pipe and ends; the first reads it and comes to the front.
+/// A lock beside the settings file ends with the process that holds it, however it ends, so nothing
+/// is left to block the next start. A second copy asks the first one through a socket there to come
+/// to the front, and ends when the first has answered.
 class SingleInstance : public QObject {
   Q_OBJECT
 
  public:
-  SingleInstance();
+  /// What a start is.
+  enum class Role {
+    Only,    ///< The first copy, or there is no place for the lock.
+    Beside,  ///< Another copy runs and does not answer: it is stopped, or hangs.
+    Second,  ///< Another copy runs and has come to the front.
+  };
+
+  /// `startPatience`: how long a copy may take to start or to end, while it answers nobody.
+  explicit SingleInstance(std::chrono::milliseconds startPatience = std::chrono::seconds(10));
   ~SingleInstance() override;
 
-  /// True: this is the first copy, or there is no place for the pipe. False: another copy runs and
-  /// has been asked to come to the front. Needs no application object.
-  bool Claim();
-  /// From now on other copies' wishes are reported. Needs the application object.
+  /// Finds out what this start is. Needs no application object.
+  Role Claim();
+  /// From now on other copies' wishes are reported and answered. Needs the application object.
   void Listen();
+  /// From now on another copy waits until this one has ended, and takes its place.
+  void StopListening();
 
  signals:
-  /// Another copy was started, with this token of the desktop's permission to take the focus.
+  /// Another copy was started, with this token of the desktop's permission to take the focus. It
+  /// has its answer when this returns.
   void FrontRequested(const QByteArray& activationToken);
 
  private:
-  void ReadRequests();
+  void Answer();
 
-  int pipe = -1;
+  std::chrono::milliseconds patience;
+  /// Empty where there is no place for the lock.
+  std::filesystem::path folder;
+  FileLock lock;
+  Descriptor listener;
   std::unique_ptr<QSocketNotifier> notifier;
-  std::string received;
 };
 
 }  // namespace vexa

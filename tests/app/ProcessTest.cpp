@@ -51,6 +51,8 @@ class ProcessTest : public QObject {
   void cleanup();
   void ASecondStartEndsWithStatusZero();
   void OfManyStartsAtOnceOneSurvives();
+  void AStartWhileTheFirstEndsTakesItsPlace();
+  void AStartBesideAStoppedCopyOpens();
   void TerminationSavesEverything_data();
   void TerminationSavesEverything();
   void TheStoreOfAnEarlierRunIsFound();
@@ -175,6 +177,40 @@ void ProcessTest::OfManyStartsAtOnceOneSurvives() {
     QCOMPARE(process->exitStatus(), QProcess::NormalExit);
     QCOMPARE(process->exitCode(), 0);
   }
+}
+
+void ProcessTest::AStartWhileTheFirstEndsTakesItsPlace() {
+  QProcess* running = Start();
+  WaitUntilIdle(*running);
+  for (int n = 0; n < 8; ++n) {
+    QCOMPARE(kill(static_cast<pid_t>(running->processId()), SIGTERM), 0);
+    QProcess* const next = Start();
+    QVERIFY(running->waitForFinished(kPatienceMs));
+    QCOMPARE(running->exitCode(), 0);
+    WaitUntilIdle(*next);
+    QCOMPARE(next->state(), QProcess::Running);
+    running = next;
+  }
+  End(running, SIGTERM);
+}
+
+void ProcessTest::AStartBesideAStoppedCopyOpens() {
+  QProcess* const first = Start();
+  WaitUntilIdle(*first);
+  QCOMPARE(kill(static_cast<pid_t>(first->processId()), SIGSTOP), 0);
+  QProcess* const second = Start();
+  WaitUntilIdle(*second);
+  QCOMPARE(second->state(), QProcess::Running);
+  // The next one finds it.
+  QProcess* const third = Start();
+  QVERIFY(third->waitForFinished(kPatienceMs));
+  QCOMPARE(third->exitCode(), 0);
+  QCOMPARE(second->state(), QProcess::Running);
+  End(second, SIGTERM);
+  QCOMPARE(kill(static_cast<pid_t>(first->processId()), SIGCONT), 0);
+  WaitUntilIdle(*first);
+  End(first, SIGTERM);
+  QCOMPARE(first->exitCode(), 0);
 }
 
 void ProcessTest::TerminationSavesEverything_data() {
