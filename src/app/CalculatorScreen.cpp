@@ -68,6 +68,10 @@ CalculatorScreen::~CalculatorScreen() {
   calculator.Save();
 }
 
+void CalculatorScreen::StoreState() {
+  calculator.Save();
+}
+
 void CalculatorScreen::BuildFileMenu() {
   AddFileCommand(QStringLiteral("&Config..."), this, &CalculatorScreen::Configure);
   AddFileCommand(QStringLiteral("Edit &Macro..."), this, &CalculatorScreen::EditMacros);

@@ -18,6 +18,8 @@ class CalculatorScreen : public ExpressionScreen {
   /// Writes the settings.
   ~CalculatorScreen() override;
 
+  void StoreState() override;
+
  protected:
   KeypadState State() const override;
   void RunKey(std::wstring_view caption) override;

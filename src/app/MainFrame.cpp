@@ -41,9 +41,7 @@ constexpr std::array<ModeScreen* (*)(SettingsStore&, QWidget*), kModes.size()> k
 }  // namespace
 
 MainFrame::MainFrame(SettingsStore& settingsStore)
-    : store(settingsStore),
-      modeCode(Read(store, settings::kMode)),
-      notices(new NoticeBar(this)) {
+    : store(settingsStore), modeCode(Read(store, settings::kMode)), notices(new NoticeBar(this)) {
   setObjectName(QStringLiteral("VexaMain"));
   setWindowTitle(FromWide(settings::kSettingsKey));
   connect(notices, &NoticeBar::HeightChanged, this, &MainFrame::LayOut);
@@ -58,6 +56,11 @@ MainFrame::~MainFrame() {
 
 void MainFrame::SwitchMode(int code) {
   modeCode = code;
+  Write(store, settings::kMode, modeCode);
+  // What the new screen reads is what the user sees on the old one.
+  for (auto& screen : screens) {
+    if (screen) screen->StoreState();
+  }
   const Mode mode = ModeOfCode(code);
   const std::size_t current = IndexOf(mode);
   if (!screens[current]) CreateScreen(mode);

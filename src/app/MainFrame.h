@@ -22,7 +22,8 @@ class MainFrame : public QWidget {
   /// Writes the mode and the window's place, after the screen has written its settings.
   ~MainFrame() override;
 
-  /// Shows the screen of the mode with this code, then destroys the one of the mode before.
+  /// Stores the state of the screen that is shown, shows the screen of the mode with this code,
+  /// then destroys the one of the mode before.
   void SwitchMode(int code);
   /// Hides the frame, then closes it.
   void Exit();

@@ -89,6 +89,10 @@ void PlotterScreen::Save() {
   functions.Save(form->Texts());
 }
 
+void PlotterScreen::StoreState() {
+  Save();
+}
+
 void PlotterScreen::BuildList() {
   auto* const row = new QHBoxLayout;
   auto* const label = new QLabel(QStringLiteral("F(X) ="), this);

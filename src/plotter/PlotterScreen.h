@@ -23,6 +23,8 @@ class PlotterScreen : public ExpressionScreen {
   /// Writes the settings.
   ~PlotterScreen() override;
 
+  void StoreState() override;
+
  protected:
   KeypadState State() const override;
   void RunKey(std::wstring_view caption) override;

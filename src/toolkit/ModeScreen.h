@@ -21,6 +21,10 @@ class ModeScreen : public QWidget {
  public:
   ModeScreen(Mode mode, QWidget* parent);
 
+  /// Stores what the user has changed, if it is not stored already: before another mode's screen
+  /// reads it, and before the screen goes.
+  virtual void StoreState() {}
+
  signals:
   /// Another mode was chosen: its stored code.
   void ModeChosen(int code);

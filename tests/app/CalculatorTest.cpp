@@ -62,6 +62,28 @@ TEST(Calculator, ReadsAndWritesInOrder) {
   EXPECT_TRUE(store.reads.empty());
 }
 
+TEST(Calculator, EachCommandStoresWhatItChanges) {
+  MemorySettingsStore store;
+  Calculator calculator(store);
+  calculator.ToggleAngle();
+  EXPECT_EQ(Read(store, settings::kAngleType), 2);
+  calculator.SetBase(BaseType::Hex);
+  EXPECT_EQ(Read(store, settings::kBaseType), 2);
+  calculator.SetDisplay(DisplayType::Scientific, 7);
+  EXPECT_EQ(Read(store, settings::kPrecision), 7);
+  calculator.TakeFromConverter({13, 9, 12}, 0.0);
+  EXPECT_EQ(Read(store, settings::kClassPos), 13);
+  EXPECT_EQ(Read(store, settings::kInputTypePos), 9);
+  EXPECT_EQ(Read(store, settings::kOutputTypePos), 12);
+  calculator.Evaluate(L"1+1");
+  EXPECT_EQ(Read(store, settings::kCalHistoryCount), 2);
+  EXPECT_EQ(Read(store, settings::kCalHistory, 2), L"1+1");
+  // An expression that the engine refuses can be recalled and mended, too.
+  calculator.Evaluate(L"1+");
+  EXPECT_EQ(Read(store, settings::kCalHistoryCount), 3);
+  EXPECT_EQ(Read(store, settings::kCalHistory, 3), L"1+");
+}
+
 TEST(Calculator, RemembersEverythingThatItSaves) {
   MemorySettingsStore store;
   {

@@ -26,6 +26,9 @@ class MainFrameTest : public QObject {
   void MenusSwitchModes();
   void TheNewScreenIsShownBeforeTheOldOneGoes();
   void SwitchingKeepsSettingsAndForgetsTheAnswer();
+  void TheNewScreenReadsWhatTheOldOneShowed();
+  void ThePlotterStoresEachFunctionAtOnce();
+  void TheModeIsStoredWhenItIsChosen();
   void SwitchingToTheSameModeKeepsTheScreen();
   void ExitHidesThenCloses();
   void ClosingTheWindowEnds();
@@ -157,6 +160,40 @@ void MainFrameTest::SwitchingKeepsSettingsAndForgetsTheAnswer() {
            QStringLiteral("0"));
   QVERIFY(frame->findChild<EditLine*>()->Text().empty());
   QCOMPARE(frame->focusWidget(), frame->findChild<EditLine*>());
+}
+
+void MainFrameTest::TheNewScreenReadsWhatTheOldOneShowed() {
+  Open();
+  QTest::mouseClick(frame->findChild<QWidget*>(QStringLiteral("DEG")), Qt::LeftButton);
+  QCOMPARE(store->ReadSettingInt(L"Config", L"Angle Type", 0), 2);
+  frame->SwitchMode(2);
+  QVERIFY(frame->findChild<QWidget*>(QStringLiteral("RAD"))->isVisible());
+  QVERIFY(!frame->findChild<QWidget*>(QStringLiteral("DEG"))->isVisible());
+  // A range that no command has read yet.
+  auto* const box = frame->findChild<QLineEdit*>(QStringLiteral("X max"));
+  QVERIFY(box);
+  box->setText(QStringLiteral("25"));
+  bool wasStored = false;
+  connect(frame->findChild<PlotterScreen*>(), &QObject::destroyed, this, [&] { wasStored = true; });
+  frame->SwitchMode(1);
+  QVERIFY(wasStored);
+  QCOMPARE(store->ReadSettingString(L"Grapher", L"X Max", L""), L"25");
+}
+
+void MainFrameTest::ThePlotterStoresEachFunctionAtOnce() {
+  store->WriteSettingInt(L"Config", L"Mode", 2);
+  Open();
+  QTest::keyClicks(frame->findChild<EditLine*>(), QStringLiteral("x+1"));
+  QTest::mouseClick(frame->findChild<QWidget*>(QStringLiteral("A")), Qt::LeftButton);
+  QCOMPARE(store->ReadSettingInt(L"Grapher", L"Grapher FunTotalNumber", 0), 1);
+  QCOMPARE(store->ReadSettingString(L"Grapher", L"Fun0", L""), L"x+1");
+  QCOMPARE(store->ReadSettingInt(L"History", L"GrapHistoryCount", 0), 1);
+}
+
+void MainFrameTest::TheModeIsStoredWhenItIsChosen() {
+  Open();
+  frame->SwitchMode(3);
+  QCOMPARE(StoredMode(), 3);
 }
 
 void MainFrameTest::SwitchingToTheSameModeKeepsTheScreen() {
