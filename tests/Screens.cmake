@@ -39,6 +39,20 @@ vexa_screen_test(main_frame_test app/MainFrameTest.cpp)
 vexa_screen_test(settings_saver_test app/SettingsSaverTest.cpp)
 vexa_screen_test(single_instance_test app/SingleInstanceTest.cpp)
 
+# The window under a window manager, in parts that run beside each other; where there is none, ctest
+# reports them as skipped.
+add_executable(window_place_on_desktop app/WindowPlaceOnDesktopTest.cpp)
+set_target_properties(window_place_on_desktop PROPERTIES AUTOMOC ON)
+target_link_libraries(window_place_on_desktop PRIVATE vexa_screens Qt6::Test)
+target_compile_options(window_place_on_desktop PRIVATE ${test_options})
+target_precompile_headers(window_place_on_desktop REUSE_FROM vexa_screen_test_headers)
+foreach(part RANGE 3)
+  add_test(NAME window_place_on_desktop.${part}
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/support/desktop $<TARGET_FILE:window_place_on_desktop>)
+  set_tests_properties(window_place_on_desktop.${part} PROPERTIES
+    SKIP_RETURN_CODE 77 ENVIRONMENT VEXA_PART=${part})
+endforeach()
+
 vexa_screen_test(process_test app/ProcessTest.cpp)
 target_compile_definitions(process_test PRIVATE VEXA_PROGRAM="$<TARGET_FILE:vexa-calculator>")
 add_dependencies(process_test vexa-calculator)

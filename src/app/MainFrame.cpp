@@ -3,12 +3,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPainter>
-#include <QScreen>
-#include <QWindow>
-#include <vector>
 
 #include "app/CalculatorScreen.h"
-#include "app/WindowPlace.h"
+#include "app/PlaceKeeper.h"
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
 #include "plotter/PlotterScreen.h"
@@ -21,10 +18,6 @@ namespace vexa {
 namespace {
 
 constexpr int kLoadingInset = 15;
-
-WindowPlace PlaceOf(const QRect& rect) {
-  return {rect.x(), rect.y(), rect.width(), rect.height()};
-}
 
 /// How each mode's screen is made, in the order of kModes.
 template <typename Screen>
@@ -45,13 +38,12 @@ MainFrame::MainFrame(SettingsStore& settingsStore)
   setObjectName(QStringLiteral("VexaMain"));
   setWindowTitle(FromWide(settings::kSettingsKey));
   connect(notices, &NoticeBar::HeightChanged, this, &MainFrame::LayOut);
-  RestorePlace();
+  place = std::make_unique<PlaceKeeper>(*this, store);
 }
 
 MainFrame::~MainFrame() {
   for (auto& screen : screens) screen.reset();
   Write(store, settings::kMode, modeCode);
-  SavePlace();
 }
 
 void MainFrame::SwitchMode(int code) {
@@ -82,6 +74,7 @@ void MainFrame::CreateScreen(Mode mode) {
 }
 
 void MainFrame::Exit() {
+  place->Note();
   hide();
   close();
 }
@@ -130,24 +123,6 @@ void MainFrame::ShowNotice(const QString& sentence) {
 void MainFrame::closeEvent(QCloseEvent* event) {
   event->accept();
   emit Closed();
-}
-
-void MainFrame::RestorePlace() {
-  std::vector<WindowPlace> areas;
-  for (const QScreen* screen : QGuiApplication::screens()) {
-    areas.push_back(PlaceOf(screen->availableGeometry()));
-  }
-  if (areas.empty()) return;
-  const WindowPlace place = FittedPlace(LoadWindowPlace(store), areas);
-  setMinimumSize(std::min(kLayoutWidth, place.width), std::min(kLayoutHeight, place.height));
-  // The position counts the window's title, so that it stays on the screen.
-  resize(place.width, place.height);
-  move(place.left, place.top);
-}
-
-void MainFrame::SavePlace() {
-  const bool isLarge = isMaximized() || isFullScreen();
-  SaveWindowPlace(store, PlaceOf(isLarge ? normalGeometry() : QRect(pos(), size())));
 }
 
 }  // namespace vexa

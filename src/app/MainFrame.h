@@ -11,6 +11,7 @@ namespace vexa {
 
 class ModeScreen;
 class NoticeBar;
+class PlaceKeeper;
 
 /// The program's window: owns the screen of the current mode and switches between the modes.
 class MainFrame : public QWidget {
@@ -46,13 +47,12 @@ class MainFrame : public QWidget {
   void ShowFirstScreen();
   void CreateScreen(Mode mode);
   void LayOut();
-  void RestorePlace();
-  void SavePlace();
 
   SettingsStore& store;
   int modeCode;
   bool firstScreenAsked = false;
   NoticeBar* notices;
+  std::unique_ptr<PlaceKeeper> place;
   std::array<std::unique_ptr<ModeScreen>, kModes.size()> screens;
 };
 

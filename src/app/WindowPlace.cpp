@@ -14,6 +14,7 @@ constexpr IntSetting kLeft{L"Window", L"Left", 0};
 constexpr IntSetting kTop{L"Window", L"Top", 0};
 constexpr IntSetting kWidth{L"Window", L"Width", 0};
 constexpr IntSetting kHeight{L"Window", L"Height", 0};
+constexpr IntSetting kMaximized{L"Window", L"Maximized", 0};
 
 /// The opening size on a large display; smaller ones give it this share of their height.
 constexpr int kComfortableHeight = 560;
@@ -56,16 +57,29 @@ WindowPlace FittedPlace(const WindowPlace& place, std::span<const WindowPlace> s
           std::clamp(place.top, best->top, best->top + best->height - height), width, height};
 }
 
-WindowPlace LoadWindowPlace(const SettingsStore& store) {
-  return {settings::Read(store, kLeft), settings::Read(store, kTop), settings::Read(store, kWidth),
-          settings::Read(store, kHeight)};
+RememberedPlace PlaceAfter(const RememberedPlace& before, const WindowView& view,
+                           std::span<const WindowPlace> screens) {
+  if (!view.isShown) return before;
+  if (view.isMaximized) return {before.place, true};
+  const auto isFilled = [&](const WindowPlace& screen) {
+    return SharedArea(view.frame, screen) == SharedArea(screen, screen);
+  };
+  if (std::ranges::any_of(screens, isFilled)) return before;
+  return {view.place, false};
 }
 
-void SaveWindowPlace(SettingsStore& store, const WindowPlace& place) {
-  settings::Write(store, kLeft, place.left);
-  settings::Write(store, kTop, place.top);
-  settings::Write(store, kWidth, place.width);
-  settings::Write(store, kHeight, place.height);
+RememberedPlace LoadWindowPlace(const SettingsStore& store) {
+  return {{settings::Read(store, kLeft), settings::Read(store, kTop), settings::Read(store, kWidth),
+           settings::Read(store, kHeight)},
+          settings::Read(store, kMaximized) != 0};
+}
+
+void SaveWindowPlace(SettingsStore& store, const RememberedPlace& remembered) {
+  settings::Write(store, kLeft, remembered.place.left);
+  settings::Write(store, kTop, remembered.place.top);
+  settings::Write(store, kWidth, remembered.place.width);
+  settings::Write(store, kHeight, remembered.place.height);
+  settings::Write(store, kMaximized, remembered.isMaximized ? 1 : 0);
 }
 
 }  // namespace vexa

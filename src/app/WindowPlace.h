@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <span>
 
 #include "display/SettingsStore.h"
@@ -30,8 +29,34 @@ WindowPlace FirstPlace(const WindowPlace& screen);
 /// screen, is FirstPlace on the first screen. `screens` is not empty.
 WindowPlace FittedPlace(const WindowPlace& place, std::span<const WindowPlace> screens);
 
-/// The stored place; values of any size are possible.
-WindowPlace LoadWindowPlace(const SettingsStore& store);
-void SaveWindowPlace(SettingsStore& store, const WindowPlace& place);
+/// A window as it is at one moment.
+struct WindowView {
+  /// The corner of its frame and its own size.
+  WindowPlace place;
+  /// The whole of its frame.
+  WindowPlace frame;
+  /// It is on the screen: neither hidden nor minimised, and not covering the whole screen.
+  bool isShown = false;
+  bool isMaximized = false;
+};
+
+/// How the window opens the next time.
+struct RememberedPlace {
+  /// Where it is while it is not maximised.
+  WindowPlace place;
+  bool isMaximized = false;
+
+  bool operator==(const RememberedPlace&) const = default;
+};
+
+/// What is remembered of a window that is seen as `view` now. Only the place of a normal window is:
+/// one whose frame fills a screen is on its way into or out of being maximised, for window managers
+/// tell a window's size and its state one after the other.
+RememberedPlace PlaceAfter(const RememberedPlace& before, const WindowView& view,
+                           std::span<const WindowPlace> screens);
+
+/// What is stored; values of any size are possible.
+RememberedPlace LoadWindowPlace(const SettingsStore& store);
+void SaveWindowPlace(SettingsStore& store, const RememberedPlace& remembered);
 
 }  // namespace vexa

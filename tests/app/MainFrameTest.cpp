@@ -33,6 +33,8 @@ class MainFrameTest : public QObject {
   void ExitHidesThenCloses();
   void ClosingTheWindowEnds();
   void PlaceAndSizeAreRemembered();
+  void TheMaximisedStateIsRememberedBesideThePlace();
+  void ThePlaceIsStoredWhenTheWindowRests();
   void HostilePlacesAreHarmless();
   void ScreensFillTheFrame();
   void ComesToTheFrontWhenMinimised();
@@ -231,16 +233,43 @@ void MainFrameTest::PlaceAndSizeAreRemembered() {
   QTRY_COMPARE(frame->pos(), QPoint(50, 60));
   frame->Exit();
   frame.reset();
-  QCOMPARE(LoadWindowPlace(*store), (WindowPlace{50, 60, 300, 400}));
+  QCOMPARE(LoadWindowPlace(*store), (RememberedPlace{{50, 60, 300, 400}, false}));
   Open();
   QCOMPARE(frame->size(), QSize(300, 400));
   QCOMPARE(frame->pos(), QPoint(50, 60));
 }
 
+void MainFrameTest::TheMaximisedStateIsRememberedBesideThePlace() {
+  const WindowPlace normal{50, 60, 300, 400};
+  SaveWindowPlace(*store, {normal, false});
+  for (int n = 0; n < 4; ++n) {
+    Open();
+    QCOMPARE(frame->isMaximized(), n > 0);
+    frame->showMaximized();
+    QTRY_VERIFY(frame->isMaximized());
+    if (n == 2) {
+      frame->showMinimized();
+      QTRY_VERIFY(frame->isMinimized());
+      frame->BringToFront();
+      QTRY_VERIFY(!frame->isMinimized());
+    }
+    frame->Exit();
+    frame.reset();
+    QCOMPARE(LoadWindowPlace(*store), (RememberedPlace{normal, true}));
+  }
+}
+
+void MainFrameTest::ThePlaceIsStoredWhenTheWindowRests() {
+  Open();
+  frame->resize(300, 400);
+  frame->move(50, 60);
+  QTRY_COMPARE(LoadWindowPlace(*store), (RememberedPlace{{50, 60, 300, 400}, false}));
+}
+
 void MainFrameTest::HostilePlacesAreHarmless() {
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   for (const int value : {2147483647, -1, -2147483647 - 1}) {
-    SaveWindowPlace(*store, {value, value, value, value});
+    SaveWindowPlace(*store, {{value, value, value, value}, false});
     Open();
     QVERIFY(screen.contains(QRect(frame->pos(), frame->size())));
     frame.reset();

@@ -71,11 +71,60 @@ TEST(WindowPlace, HostilePlacesEndOnAScreen) {
   }
 }
 
-TEST(WindowPlace, IsRemembered) {
+constexpr RememberedPlace kBefore{{100, 80, 340, 480}, false};
+constexpr RememberedPlace kMaximisedBefore{{100, 80, 340, 480}, true};
+
+/// A shown window with a title of 20 pixels and no other frame.
+WindowView Shown(const WindowPlace& place) {
+  return {.place = place,
+          .frame = {place.left, place.top, place.width, place.height + 20},
+          .isShown = true};
+}
+
+TEST(WindowPlace, ANormalWindowsPlaceIsRemembered) {
+  const WindowPlace place{300, 200, 400, 500};
+  for (const RememberedPlace& before : {kBefore, kMaximisedBefore}) {
+    EXPECT_EQ(PlaceAfter(before, Shown(place), kScreens), (RememberedPlace{place, false}));
+  }
+}
+
+TEST(WindowPlace, WhatIsNotShownChangesNothing) {
+  for (const bool isMaximized : {false, true}) {
+    WindowView view = Shown({300, 200, 400, 500});
+    view.isShown = false;
+    view.isMaximized = isMaximized;
+    EXPECT_EQ(PlaceAfter(kBefore, view, kScreens), kBefore);
+    EXPECT_EQ(PlaceAfter(kMaximisedBefore, view, kScreens), kMaximisedBefore);
+  }
+}
+
+TEST(WindowPlace, AMaximisedWindowKeepsTheNormalPlace) {
+  WindowView view = Shown({0, 0, 1920, 1020});
+  view.isMaximized = true;
+  EXPECT_EQ(PlaceAfter(kBefore, view, kScreens), kMaximisedBefore);
+  EXPECT_EQ(PlaceAfter(kMaximisedBefore, view, kScreens), kMaximisedBefore);
+}
+
+TEST(WindowPlace, ASizeThatIsToldBeforeItsStateChangesNothing) {
+  // Maximised, said to be normal still or already.
+  for (const WindowPlace& place : {WindowPlace{0, 0, 1920, 1020}, WindowPlace{1920, 100, 1280, 880},
+                                   WindowPlace{-4, 0, 1930, 1060}}) {
+    EXPECT_EQ(PlaceAfter(kBefore, Shown(place), kScreens), kBefore);
+    EXPECT_EQ(PlaceAfter(kMaximisedBefore, Shown(place), kScreens), kMaximisedBefore);
+  }
+  // Large in one direction only is a size that a person gives.
+  const WindowPlace high{50, 0, 400, 1020};
+  EXPECT_EQ(PlaceAfter(kBefore, Shown(high), kScreens).place, high);
+}
+
+TEST(WindowPlace, IsStored) {
   MemorySettingsStore store;
-  EXPECT_EQ(LoadWindowPlace(store), WindowPlace());
-  SaveWindowPlace(store, {-10, 20, 300, 400});
-  EXPECT_EQ(LoadWindowPlace(store), (WindowPlace{-10, 20, 300, 400}));
+  EXPECT_EQ(LoadWindowPlace(store), RememberedPlace());
+  for (const bool isMaximized : {true, false}) {
+    const RememberedPlace place{{-10, 20, 300, 400}, isMaximized};
+    SaveWindowPlace(store, place);
+    EXPECT_EQ(LoadWindowPlace(store), place);
+  }
 }
 
 }  // namespace
