@@ -17,6 +17,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <thread>
 
 #include "Ratios.h"
 #include "display/MemorySettingsStore.h"
@@ -148,7 +149,7 @@ DataList ListOf(std::span<const ListColumn> columns, const char* name) {
   DataSet data{PackedRows(columns.size())};
   const FileOutcome outcome = LoadDataFile(QString::fromLatin1(name), columns.size(),
                                            static_cast<std::size_t>(rowCount), Unwatched, data);
-  Check(outcome == FileOutcome::Done, "the file cannot be read");
+  Check(outcome.end == FileEnd::Done, "the file cannot be read");
   DataList list(columns);
   list.Load(std::move(data));
   return list;
@@ -172,11 +173,14 @@ Work Result(const DataList& list, const wchar_t* caption, RegressionModel model)
   // The numbers are there.
   list.AddUp(Unwatched);
   return [=, &list, &key](std::size_t times) {
-    for (; times > 0; --times) {
-      // Fits anew each time.
-      regression->ChooseModel(model);
-      Use(key.compute({list, *regression, 1.5, 2.5}));
-    }
+    // As the screens do it: beside the window.
+    std::jthread([&] {
+      for (std::size_t i = 0; i < times; ++i) {
+        // Fits anew each time.
+        regression->ChooseModel(model);
+        Use(key.compute({list, *regression, 1.5, 2.5}));
+      }
+    });
   };
 }
 
