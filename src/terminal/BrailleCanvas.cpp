@@ -59,8 +59,8 @@ std::wstring BrailleCanvas::Picture(bool coloured) const {
   return picture;
 }
 
-void BrailleCanvas::Line(PixelPoint from, PixelPoint to, Colour colour) {
-  Draw(from.x, from.y, to.x, to.y, colour);
+void BrailleCanvas::Line(PixelPoint from, PixelPoint to, const LineStyle& style) {
+  Draw(from.x, from.y, to.x, to.y, style.colour);
 }
 
 void BrailleCanvas::Dot(const CurvePoint& point, Colour colour) {
@@ -76,10 +76,13 @@ void BrailleCanvas::Circle(const PixelBox& box, Colour colour) {
        (box.top + box.bottom) / 2.0, colour);
 }
 
-void BrailleCanvas::Text(PixelPoint corner, std::wstring_view text, Colour) {
-  const int row = static_cast<int>((corner.y - area.top) * scale) / kDotsDown;
-  // Behind the axis or the frame that it stands at, however few characters are between them.
-  int column = static_cast<int>((corner.x - area.left) * scale) / kDotsAcross + 1;
+/// Beside the character of the anchor, on the side of the offset: a character is larger than any
+/// offset.
+void BrailleCanvas::Text(PixelPoint anchor, PixelPoint offset, std::wstring_view text, Colour) {
+  int row = static_cast<int>((anchor.y - area.top) * scale) / kDotsDown;
+  int column = static_cast<int>((anchor.x - area.left) * scale) / kDotsAcross;
+  row += (offset.y > 0) - (offset.y < 0);
+  column += offset.x < 0 ? -static_cast<int>(text.size()) : 1;
   if (row < 0 || row >= rows) return;
   for (const wchar_t letter : text) {
     if (column >= 0 && column < columns) {
@@ -91,15 +94,19 @@ void BrailleCanvas::Text(PixelPoint corner, std::wstring_view text, Colour) {
 
 /// A line between two places of the view, a dot for each step along its longer side.
 void BrailleCanvas::Draw(double fromX, double fromY, double toX, double toY, Colour colour) {
-  const double startX = (fromX - area.left) * scale;
-  const double startY = (fromY - area.top) * scale;
-  const double acrossX = (toX - fromX) * scale;
-  const double acrossY = (toY - fromY) * scale;
+  // What lies far outside is as good as just outside.
+  const auto dot = [&](double place, int first, int dots) {
+    return std::clamp((place - first) * scale, -1.0, static_cast<double>(dots));
+  };
+  const double startX = dot(fromX, area.left, columns * kDotsAcross);
+  const double startY = dot(fromY, area.top, rows * kDotsDown);
+  const double acrossX = dot(toX, area.left, columns * kDotsAcross) - startX;
+  const double acrossY = dot(toY, area.top, rows * kDotsDown) - startY;
   const int steps = std::max(1, static_cast<int>(std::max(std::abs(acrossX), std::abs(acrossY))));
   for (int i = 0; i <= steps; ++i) {
     const double share = static_cast<double>(i) / steps;
-    Set(static_cast<int>(startX + acrossX * share), static_cast<int>(startY + acrossY * share),
-        colour);
+    Set(static_cast<int>(std::floor(startX + acrossX * share)),
+        static_cast<int>(std::floor(startY + acrossY * share)), colour);
   }
 }
 

@@ -20,11 +20,11 @@ class BrailleCanvas : public Canvas {
   std::wstring Picture(bool coloured) const;
 
   void Fill(const PixelBox&, Colour) override {}
-  void Line(PixelPoint from, PixelPoint to, Colour colour) override;
+  void Line(PixelPoint from, PixelPoint to, const LineStyle& style) override;
   void Dot(const CurvePoint& point, Colour colour) override;
   void Segment(const CurvePoint& from, const CurvePoint& to, Colour colour) override;
   void Circle(const PixelBox& box, Colour colour) override;
-  void Text(PixelPoint corner, std::wstring_view text, Colour colour) override;
+  void Text(PixelPoint anchor, PixelPoint offset, std::wstring_view text, Colour colour) override;
 
  private:
   struct Cell {
