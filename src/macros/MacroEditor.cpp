@@ -1,7 +1,5 @@
 #include "macros/MacroEditor.h"
 
-#include "toolkit/LineText.h"
-
 namespace vexa {
 namespace {
 
@@ -44,10 +42,6 @@ ListEditor::Refusal MacroEditor::Save(const Fields& fields) {
   return {};
 }
 
-std::wstring_view MacroEditor::CheckFormulaLength(std::size_t length) {
-  return length > kMaxFormulaLength ? kFormulaTooLong : std::wstring_view{};
-}
-
 MacroEditor::Fields MacroEditor::ShownFields() const {
   const int index = Shown();
   if (index < 0) return {};
@@ -69,8 +63,7 @@ ListEditor::Refusal MacroEditor::Check(const Fields& trimmed) const {
   }
   if (trimmed.type < 0) return {L"Argument Type is NULL", Type};
   if (trimmed.formula.empty()) return {L"Macro Expression is NULL", Formula};
-  const std::wstring_view tooLong = CheckFormulaLength(trimmed.formula.size());
-  if (!tooLong.empty()) return {std::wstring(tooLong), Formula};
+  if (trimmed.formula.size() > kMaxFormulaLength) return {std::wstring(kFormulaTooLong), Formula};
   ExprParser parser;
   parser.formulaType = kMacroTypes[static_cast<std::size_t>(trimmed.type)].formulaType;
   parser.Validate(trimmed.formula);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "macros/MacroTable.h"
+#include "toolkit/LineText.h"
 #include "toolkit/ListEditor.h"
 
 namespace vexa {
@@ -14,6 +15,9 @@ class MacroEditor : public ListEditor {
   /// Characters of a formula at most.
   static constexpr std::size_t kMaxFormulaLength = 150;
   static constexpr std::wstring_view kFormulaTooLong = L"Macro Expression exceeded length limit.";
+
+  /// What a name holds: more than its line in the list can show.
+  static constexpr FieldLength kNameLength{100, L"Macro Name exceeded length limit."};
 
   /// The fields of the editor.
   enum Field : int { Name, Type, Formula };
@@ -37,8 +41,6 @@ class MacroEditor : public ListEditor {
   /// Checks the fields, stores the macro, selects it and returns to the view state; or tells why
   /// not.
   Refusal Save(const Fields& fields);
-  /// Why a formula of `length` characters is refused; empty: it has room.
-  static std::wstring_view CheckFormulaLength(std::size_t length);
   const MacroTable& Macros() const { return macros; }
   /// What the fields show: the new macro's empty fields, or the selected macro. A formula of
   /// several lines is shown as one.

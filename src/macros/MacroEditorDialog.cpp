@@ -6,6 +6,7 @@
 #include "macros/MemoryVariableDialog.h"
 #include "toolkit/EditLine.h"
 #include "toolkit/KeyboardOnFocus.h"
+#include "toolkit/LimitLength.h"
 #include "toolkit/MessageBox.h"
 #include "toolkit/TouchComboBox.h"
 #include "toolkit/TouchSize.h"
@@ -32,6 +33,7 @@ MacroEditorDialog::MacroEditorDialog(SettingsStore& settingsStore, QWidget* pare
 
 void MacroEditorDialog::BuildFields() {
   name = new QLineEdit(this);
+  LimitLength(name, MacroEditor::kNameLength);
   name->setMinimumHeight(kTouchHeight);
   new KeyboardOnFocus(name);
   AddFieldRow(L"Macro Name", name);
@@ -69,13 +71,10 @@ void MacroEditorDialog::RecallVariable() {
 }
 
 void MacroEditorDialog::InsertVariable(int index) {
-  const EditText before = formula->State();
-  const TextChange change = InsertText(before, MemoryVariables(store).FormulaText(index));
-  // A number of which only the front has room would be another number.
-  const std::wstring_view tooLong =
-      MacroEditor::CheckFormulaLength(Apply(before, change).text.size());
-  if (tooLong.empty()) return formula->ApplyChange(change);
-  ShowErrorBox(this, std::wstring(tooLong), [this] { formula->setFocus(); });
+  std::wstring text;
+  const std::wstring sentence = MemoryVariables(store).FormulaText(index, text);
+  if (sentence.empty()) return formula->ApplyOrTell(InsertText(formula->State(), text));
+  ShowErrorBox(this, sentence, [this] { formula->setFocus(); });
 }
 
 }  // namespace vexa

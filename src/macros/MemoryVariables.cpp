@@ -1,6 +1,9 @@
 #include "macros/MemoryVariables.h"
 
+#include <cmath>
+
 #include "display/SettingsLayout.h"
+#include "engine/EngineErrors.h"
 #include "engine/NumberText.h"
 #include "toolkit/NumberBox.h"
 
@@ -25,8 +28,10 @@ double MemoryVariables::Value(int index) const {
   return HasDigitsInFront(text) ? ReadNumberBox(text).value_or(TextToDouble(text)) : 0.0;
 }
 
-std::wstring MemoryVariables::FormulaText(int index) const {
-  return PlainNumber(Text(index)).value_or(L"0");
+std::wstring MemoryVariables::FormulaText(int index, std::wstring& text) const {
+  if (std::isinf(Value(index))) return std::wstring(kOutOfRangeText);
+  text = PlainNumber(Text(index)).value_or(L"0");
+  return {};
 }
 
 std::wstring MemoryVariables::Line(int index) const {

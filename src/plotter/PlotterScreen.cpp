@@ -39,6 +39,8 @@ constexpr int kKeypadShare = 26;
 constexpr int kLeastFieldHeight = 25;
 constexpr int kLeastBoxHeight = 17;
 constexpr int kLeastListHeight = 18;
+/// Eight rows of keys that leave a notice its line on the smallest display.
+constexpr int kLeastKeypadHeight = 157;
 constexpr int kListButtonWidth = 40;
 
 }  // namespace
@@ -71,6 +73,7 @@ PlotterScreen::PlotterScreen(SettingsStore& settingsStore, QWidget* parent)
   connect(form, &RangeForm::RangesChanged, this, &PlotterScreen::Save);
   Content()->addWidget(form, kFormShare);
   PlaceKeypad(kKeypadShare);
+  Keys()->setMinimumHeight(kLeastKeypadHeight);
 
   AddFileCommand(QStringLiteral("&Config..."), this, &PlotterScreen::Configure);
   BuildEditMenu();
@@ -229,7 +232,9 @@ void PlotterScreen::RecallVariable() {
 }
 
 void PlotterScreen::TakeVariable(QWidget* target, int index) {
-  const std::wstring text = MemoryVariables(store).FormulaText(index);
+  std::wstring text;
+  const std::wstring sentence = MemoryVariables(store).FormulaText(index, text);
+  if (!sentence.empty()) return ShowErrorBox(this, sentence, [target] { target->setFocus(); });
   if (target == Line()) return InsertIntoLine(text);
   qobject_cast<RangeEdit*>(target)->ShowText(text);
 }

@@ -1,6 +1,9 @@
 // What the macro editor accepts, what it refuses with which words, and how its fields are filled.
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QSignalSpy>
+#include <QToolTip>
 
 #include "support/MacroEditorOnScreen.h"
 #include "support/ScreenMain.h"
@@ -27,9 +30,12 @@ class MacroEditorSaveTest : public QObject {
   void SavingAnEditedMacroReplacesItsLine();
   void EnterSaves();
   void TheFormulaHoldsAHundredAndFiftyCharacters();
+  void APasteWithoutRoomIsRefusedWhole();
+  void TheNameHasALength();
   void MemInsertsIntoTheFormula();
   void MemInsertsPlainNumbers();
   void MemInsertsWholeNumbersOnly();
+  void MemInsertsNothingThatIsTooLarge();
   void MemDismissedChangesNothing();
   void TheKeyboardFollowsTheFocus();
 
@@ -169,6 +175,46 @@ void MacroEditorSaveTest::TheFormulaHoldsAHundredAndFiftyCharacters() {
   QVERIFY(test::Stored(editor->store).front().formula == (longest + u'!').toStdWString());
 }
 
+void MacroEditorSaveTest::APasteWithoutRoomIsRefusedWhole() {
+  editor->Open();
+  editor->Press("Edit");
+  const QString before = editor->formula->toPlainText();
+  editor->formula->setFocus();
+  editor->formula->selectAll();
+  const QString tooLong = QStringLiteral("x") + QStringLiteral("+1").repeated(80);
+  QCOMPARE(tooLong.size(), qsizetype{161});
+  QGuiApplication::clipboard()->setText(tooLong);
+  QTest::keyClick(editor->formula, Qt::Key_V, Qt::ControlModifier);
+  QCOMPARE(ShownBox(), test::Error("Macro Expression exceeded length limit."));
+  AnswerBox();
+  QCOMPARE(editor->formula->toPlainText(), before);
+  QCOMPARE(editor->formula->textCursor().selectedText(), before);
+  QTRY_VERIFY(editor->formula->hasFocus());
+  QGuiApplication::clipboard()->setText(tooLong.left(149));
+  QTest::keyClick(editor->formula, Qt::Key_V, Qt::ControlModifier);
+  QVERIFY(!test::OpenBox());
+  QCOMPARE(editor->formula->toPlainText(), tooLong.left(149));
+}
+
+void MacroEditorSaveTest::TheNameHasALength() {
+  editor->Open({});
+  editor->Press("New");
+  const auto paste = [this](qsizetype length) {
+    QGuiApplication::clipboard()->setText(QString(length, u'f'));
+    QTest::keyClick(editor->name, Qt::Key_V, Qt::ControlModifier);
+  };
+  paste(101);
+  QCOMPARE(editor->name->text(), QString());
+  QCOMPARE(QToolTip::text(), QStringLiteral("Macro Name exceeded length limit."));
+  paste(100);
+  QTest::keyClicks(editor->name, QStringLiteral("f"));
+  QCOMPARE(editor->name->text(), QString(100, u'f'));
+  editor->type->setCurrentIndex(0);
+  editor->formula->setPlainText(QStringLiteral("x"));
+  editor->Press("Save");
+  QCOMPARE(test::Stored(editor->store).front().name, std::wstring(100, L'f'));
+}
+
 void MacroEditorSaveTest::MemInsertsIntoTheFormula() {
   Write(editor->store, settings::kMemoryVariable, 4, L"2.5");
   editor->Open();
@@ -208,6 +254,17 @@ void MacroEditorSaveTest::MemInsertsWholeNumbersOnly() {
   QCOMPARE(ShownBox(), test::Error("Macro Expression exceeded length limit."));
   AnswerBox();
   QCOMPARE(editor->formula->toPlainText(), nearlyFull);
+  QCOMPARE(editor->dialog->focusWidget(), editor->formula);
+}
+
+void MacroEditorSaveTest::MemInsertsNothingThatIsTooLarge() {
+  Write(editor->store, settings::kMemoryVariable, 0, L"1e999");
+  editor->Open();
+  editor->Press("Edit");
+  Recall(0);
+  QCOMPARE(ShownBox(), test::Error("Out of range(overflow or underflow)"));
+  AnswerBox();
+  QVERIFY(editor->Fields() == kThreeMacros[0]);
   QCOMPARE(editor->dialog->focusWidget(), editor->formula);
 }
 

@@ -10,6 +10,12 @@
 namespace vexa {
 namespace {
 
+std::wstring FormulaText(const MemoryVariables& variables, int index) {
+  std::wstring text;
+  EXPECT_EQ(variables.FormulaText(index, text), L"");
+  return text;
+}
+
 TEST(MemoryVariables, FreshStoreListsZeros) {
   MemorySettingsStore store;
   const MemoryVariables variables(store);
@@ -57,7 +63,7 @@ TEST(MemoryVariables, TypesetNumbersAreRead) {
   MemoryVariables variables(store);
   variables.Store(3, L"\u22121\u2009234.5");
   EXPECT_EQ(variables.Value(3), -1234.5);
-  EXPECT_EQ(variables.FormulaText(3), L"-1234.5");
+  EXPECT_EQ(FormulaText(variables, 3), L"-1234.5");
 }
 
 TEST(MemoryVariables, TheNumberAtTheFrontCounts) {
@@ -84,11 +90,22 @@ TEST(MemoryVariables, FormulasGetNumbersWithoutSeparators) {
                                                              {L"", L"0"},
                                                              {L"1,2", L"0"},
                                                              {L"1 apple", L"0"},
-                                                             {L"1e999", L"0"},
+                                                             {L"1e-999", L"1e-999"},
                                                              {L" 12\t", L"12"}};
   for (const auto& [stored, text] : cases) {
     variables.Store(3, stored);
-    EXPECT_EQ(variables.FormulaText(3), text);
+    EXPECT_EQ(FormulaText(variables, 3), text);
+  }
+}
+
+TEST(MemoryVariables, FormulasGetNoNumberThatIsTooLarge) {
+  MemorySettingsStore store;
+  MemoryVariables variables(store);
+  for (const std::wstring_view stored : {L"1e999", L"-1e400", L"1.798e+308", L" 1e999 "}) {
+    variables.Store(3, stored);
+    std::wstring text = L"as it was";
+    EXPECT_EQ(variables.FormulaText(3, text), L"Out of range(overflow or underflow)");
+    EXPECT_EQ(text, L"as it was");
   }
 }
 
