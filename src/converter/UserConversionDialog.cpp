@@ -51,6 +51,7 @@ void UserConversionDialog::BuildFields() {
     box->setObjectName(name);
     box->setAccessibleName(name);
     box->setPlaceholderText(hint);
+    LimitLength(box, UserConversionEditor::kUnitNameLength);
   }
   AddFieldRow(L"Rate", rate);
   LimitLength(rate, kNumberLength);

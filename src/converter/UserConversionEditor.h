@@ -5,6 +5,7 @@
 
 #include "converter/UserConversions.h"
 #include "display/SettingsStore.h"
+#include "toolkit/LineText.h"
 #include "toolkit/ListEditor.h"
 
 namespace vexa {
@@ -22,6 +23,9 @@ struct ConversionBoxes {
 /// one is saved.
 class UserConversionEditor : public ListEditor {
  public:
+  /// What a unit's name holds: more than the list's line can show.
+  static constexpr FieldLength kUnitNameLength{100, L"Unit name exceeded length limit."};
+
   /// The boxes of the editor.
   enum Box : int { FirstName, SecondName, Rate };
 

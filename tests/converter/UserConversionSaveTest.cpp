@@ -1,3 +1,7 @@
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QToolTip>
+
 #include "support/Boxes.h"
 #include "support/ConversionEditorOnScreen.h"
 #include "support/ScreenMain.h"
@@ -17,6 +21,7 @@ class UserConversionSaveTest : public QObject {
   void TheSixtiethIsTheLast();
   void AnEditedConversionStaysInItsPlace();
   void NamesAreStripped();
+  void NamesHaveALength();
 
  private:
   test::ConversionEditorOnScreen screen;
@@ -128,6 +133,20 @@ void UserConversionSaveTest::NamesAreStripped() {
   screen.Press("Save");
   QCOMPARE(screen.Stored(), QStringList{QStringLiteral("Light  year -> km = 9.46e12")});
   QCOMPARE(screen.first->text(), QStringLiteral("Light  year"));
+}
+
+void UserConversionSaveTest::NamesHaveALength() {
+  screen.Open(0);
+  screen.Press("New");
+  for (QLineEdit* const name : {screen.first, screen.second}) {
+    name->setFocus();
+    QGuiApplication::clipboard()->setText(QString(101, u'u'));
+    QTest::keyClick(name, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(name->text(), QString());
+    QCOMPARE(QToolTip::text(), QStringLiteral("Unit name exceeded length limit."));
+    QTest::keyClicks(name, QString(101, u'u'));
+    QCOMPARE(name->text(), QString(100, u'u'));
+  }
 }
 
 }  // namespace vexa
