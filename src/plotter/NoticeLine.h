@@ -4,8 +4,8 @@
 
 namespace vexa {
 
-/// A quiet word in one line, there while it has a text. Its letters shrink to the width; where
-/// everything else needs the height, it gives way.
+/// A quiet word in one line, there while it has a text. Its letters shrink to the width; the height
+/// of their line is left to them on the smallest display, too.
 class NoticeLine : public QLabel {
   Q_OBJECT
 
@@ -14,7 +14,7 @@ class NoticeLine : public QLabel {
 
   void ShowText(const QString& text);
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return {0, 0}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

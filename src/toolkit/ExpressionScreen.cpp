@@ -1,5 +1,6 @@
 #include "toolkit/ExpressionScreen.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QKeyEvent>
@@ -10,7 +11,6 @@
 
 #include "display/TextHistory.h"
 #include "toolkit/EditLine.h"
-#include "toolkit/KeyButton.h"
 #include "toolkit/Keypad.h"
 #include "toolkit/PopupMenu.h"
 #include "toolkit/ResultLine.h"
@@ -112,7 +112,7 @@ void ExpressionScreen::InsertIntoLine(const std::wstring& text) {
 void ExpressionScreen::keyPressEvent(QKeyEvent* event) {
   const QWidget* const focused = focusWidget();
   const bool isForReading =
-      qobject_cast<const KeyButton*>(focused) || qobject_cast<const ResultLine*>(focused);
+      qobject_cast<const QAbstractButton*>(focused) || qobject_cast<const ResultLine*>(focused);
   if (!isForReading || !EditLine::IsTyping(*event)) return ModeScreen::keyPressEvent(event);
   line->setFocus();
   QCoreApplication::sendEvent(line, event);

@@ -47,11 +47,13 @@ class PlotterScreenTest : public QObject {
   void PbListsTheNewestFirst();
   void PbListsEmptyEntriesToo();
   void ClicksLeaveTheFocusWhereTheUserTypes();
+  void WhatIsTypedOnAButtonGoesToTheField();
   void PlotOpensTheGraph();
   void EnterPlots();
   void PlotSaysThatABoxIsNoNumber();
   void PlotShowsTheFunctionThatFails();
   void MemoryGoesToTheBoxThatHadTheFocus();
+  void MemoryThatIsTooLargeIsRefused();
   void ALongNumberIsStoredExactly();
   void MacroWithoutMacrosOpensTheEditor();
   void MacroInsertsItsCall();
@@ -347,6 +349,26 @@ void PlotterScreenTest::ClicksLeaveTheFocusWhereTheUserTypes() {
   }
 }
 
+void PlotterScreenTest::WhatIsTypedOnAButtonGoesToTheField() {
+  SetField(QStringLiteral("x"));
+  PressKey("A");
+  for (const char* name : {"Grid", "Line", "Coordinates", "A", "D", "SIN"}) {
+    Control(name)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(Control(name), 'x');
+    QVERIFY2(field->hasFocus(), name);
+    QCOMPARE(Field(), QStringLiteral("x"));
+    Control(name)->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(Control(name), Qt::Key_Backspace);
+    QVERIFY2(field->hasFocus(), name);
+    QCOMPARE(Field(), QString());
+  }
+  // The blank is the button's own key.
+  auto* const grid = screen->findChild<QCheckBox*>(QStringLiteral("Grid"));
+  grid->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(grid, Qt::Key_Space);
+  QVERIFY(grid->hasFocus() && !grid->isChecked());
+}
+
 void PlotterScreenTest::PbListsEmptyEntriesToo() {
   screen.reset();
   Write(*store, settings::kGrapHistoryCount, 3);
@@ -457,6 +479,23 @@ void PlotterScreenTest::MemoryGoesToTheBoxThatHadTheFocus() {
   recall(1);
   recall(2);
   QCOMPARE(Field(), QStringLiteral("1234.50"));
+}
+
+void PlotterScreenTest::MemoryThatIsTooLargeIsRefused() {
+  Write(*store, settings::kMemoryVariable, 0, L"1e999");
+  SetField(QStringLiteral("x*"));
+  for (QWidget* const target : {static_cast<QWidget*>(field), Control("X max")}) {
+    target->setFocus();
+    PressKey("M");
+    auto* const memory = OpenWindow<MemoryVariableDialog>(screen.get());
+    QVERIFY(memory);
+    memory->findChild<TouchList*>()->setCurrentRow(0);
+    Press(memory, QStringLiteral("Recall"));
+    QCOMPARE(Answer(screen.get()), QStringLiteral("Out of range(overflow or underflow)"));
+    QTRY_VERIFY(target->hasFocus());
+  }
+  QCOMPARE(Field(), QStringLiteral("x*"));
+  QCOMPARE(Box("X max")->text(), QStringLiteral("10"));
 }
 
 void PlotterScreenTest::ALongNumberIsStoredExactly() {
@@ -645,6 +684,10 @@ void PlotterScreenTest::EverythingFitsAtTheSmallestSize() {
   QTest::qWait(1);
   QCOMPARE(screen->size(), QSize(240, 320));
   QVERIFY2(!field->verticalScrollBar()->isVisible(), "a row has room");
+  auto* const notice = screen->findChild<QLabel*>(QStringLiteral("Notice"));
+  QVERIFY(notice->isVisible());
+  QVERIFY2(notice->height() >= notice->fontMetrics().height(), "the notice has room");
+  shown << notice;
   for (const QWidget* control : shown) {
     const QRect place(control->mapTo(screen.get(), QPoint()), control->size());
     QVERIFY2(screen->rect().contains(place), qPrintable(control->objectName()));
