@@ -164,7 +164,10 @@ std::optional<int> FindChoice(std::span<const Choice> choices, std::string_view 
 Request ReadCommandLine(std::vector<std::string> words) {
   if (words.empty()) return {.command = &kEvalCommand};
   const std::string first = words[0];
-  if (first == "--help" || first == "-h") return {.text = Overview()};
+  // No expression is the word "help".
+  if (first == "--help" || first == "-h" || (first == "help" && words.size() == 1)) {
+    return {.text = Overview()};
+  }
   if (first == "--version") return {.text = "vexa " VEXA_VERSION "\n"};
   if (IsCommandGroup(first)) {
     const bool asksForHelp = words.size() > 1 && (words[1] == "--help" || words[1] == "-h");

@@ -14,7 +14,7 @@ constexpr std::size_t kWidth = 79;
 /// where `line` ends.
 std::string Wrapped(std::string line, std::string_view text, std::size_t indent) {
   std::string lines;
-  if (line.size() >= indent) {
+  if (!line.empty() && line.size() >= indent) {
     lines = line + "\n";
     line.clear();
   }

@@ -52,6 +52,26 @@ TEST(CommandLine, ChoicesByTheirBeginnings) {
   EXPECT_EQ(FindChoice(kChoices, "threefold"), std::nullopt);
 }
 
+TEST(HelpText, HelpIsAskedForInEveryWay) {
+  for (const Words& words : {Words{"--help"}, Words{"-h"}, Words{"help"}}) {
+    const Request request = ReadCommandLine(words);
+    EXPECT_EQ(request.status, kDone);
+    EXPECT_TRUE(request.text.starts_with("An exact scientific calculator.")) << request.text;
+  }
+  EXPECT_NE(ReadCommandLine({"memory", "--help"}).text.find("memory clear"), std::string::npos);
+}
+
+TEST(HelpText, LinesFitIntoATerminal) {
+  for (const Command* command : Commands()) {
+    const std::string help = HelpOf(*command).substr(0, HelpOf(*command).find(command->more));
+    for (std::size_t start = 0; start < help.size();) {
+      const std::size_t end = help.find('\n', start);
+      EXPECT_LE(end - start, 79u) << help.substr(start, end - start);
+      start = end + 1;
+    }
+  }
+}
+
 TEST(HelpText, EveryCommandSaysAllThatItTakes) {
   for (const Command* command : Commands()) {
     EXPECT_NE(Overview().find("  " + std::string(command->name) + " "), std::string::npos);

@@ -154,6 +154,29 @@ TEST_F(SafetyTest, HugeTable) {
   EXPECT_EQ(Run({"table", "x", "--x", "-1e308", "1e308"}).status, 1);
 }
 
+TEST_F(SafetyTest, ShellCompletes) {
+  // As the shell calls it, with the program in its path.
+  test::PutBytes(
+      home / "try",
+      "PATH=$(dirname '" VEXA_PROGRAM
+      "'):$PATH\n"
+      "source <(vexa completion bash)\n"
+      "for words in 'vexa conv' 'vexa convert_1_Square.F' 'vexa eval_-d_f' 'vexa macro_'; do\n"
+      "  IFS='_ ' read -r -a COMP_WORDS <<<\"$words\"\n"
+      "  COMP_WORDS=(\"${COMP_WORDS[@]//./ }\")\n"
+      "  [[ $words == *_ ]] && COMP_WORDS+=('')\n"
+      "  COMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
+      "  _vexa\n"
+      "  echo \"${COMPREPLY[@]}\"\n"
+      "done\n");
+  FILE* const shell = popen(("bash '" + (home / "try").string() + "'").c_str(), "r");
+  ASSERT_NE(shell, nullptr);
+  std::string out(200, '\0');
+  out.resize(fread(out.data(), 1, out.size(), shell));
+  EXPECT_EQ(pclose(shell), 0);
+  EXPECT_EQ(out, "convert\nSquare\\ Feet\nfloat fixed\nlist show set delete\n");
+}
+
 TEST_F(SafetyTest, StoreIsSharedAndKept) {
   EXPECT_EQ(Run({"macro", "set", "hyp", "sqrt(x^2+y^2)"}).status, 0);
   EXPECT_EQ(Run({"M:hyp(3,4)"}).out, "5\n");
