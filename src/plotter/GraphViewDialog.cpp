@@ -62,6 +62,14 @@ constexpr CommandKeys kCommandKeys[] = {
     {L"Undo", "Ctrl+Z", Qt::WindowShortcut},
 };
 
+/// A key that types a digit or a point. With Control or Alt it is a command's, though the keyboard
+/// may tell the same text.
+bool TypesOfANumber(const QKeyEvent& event) {
+  const auto modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  const QString text = event.text();
+  return !modifiers && text.size() == 1 && (text.front().isDigit() || text.front() == u'.');
+}
+
 /// The view's number settings as they are stored.
 GraphModel NewModel(const SettingsStore& store, GraphData graph) {
   return {std::move(graph), static_cast<DisplayType>(Read(store, settings::kDisplayType)),
@@ -276,8 +284,7 @@ void GraphViewDialog::RemoveRubberBand() {
 
 void GraphViewDialog::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && view->IsPenDown()) return view->DropPen();
-  const QString text = event->text();
-  if (text.size() == 1 && (text.front().isDigit() || text == QStringLiteral("."))) {
+  if (!xBox->hasFocus() && TypesOfANumber(*event)) {
     xBox->setFocus();
     xBox->selectAll();
     QCoreApplication::sendEvent(xBox, event);

@@ -49,6 +49,7 @@ class GraphViewTest : public QObject {
   void TextAndCheckAreTakenHoweverTheyAreSet();
   void TabGoesAsRead();
   void TypedNumbersAreForX();
+  void DigitsWithControlAreNoNumbers();
   void OptionsTabAsRead();
   void OptionsShowExponentsAndKeepWhatTheyCut();
   void EveryChangeIsDrawn();
@@ -338,6 +339,20 @@ void GraphViewTest::TypedNumbersAreForX() {
   Functions()->setFocus();
   QTest::keyClick(Functions(), Qt::Key_3);
   QVERIFY(Functions()->hasFocus());
+}
+
+void GraphViewTest::DigitsWithControlAreNoNumbers() {
+  XBox()->setText(QStringLiteral("7"));
+  for (QWidget* const control : {static_cast<QWidget*>(Plot()), static_cast<QWidget*>(XBox())}) {
+    control->setFocus();
+    for (const char* const text : {"1", "9", "0", "."}) {
+      // As keyboards tell it: these keys keep their text.
+      QKeyEvent press(QEvent::KeyPress, *text, Qt::ControlModifier, QString::fromLatin1(text));
+      QCoreApplication::sendEvent(control, &press);
+      QVERIFY(control->hasFocus());
+      QCOMPARE(XBox()->text(), QStringLiteral("7"));
+    }
+  }
 }
 
 void GraphViewTest::OptionsTabAsRead() {
