@@ -93,6 +93,8 @@ std::wstring GraphModel::Change(const BoundMoves& moves, const ChangeKind& kind)
 std::wstring GraphModel::ZoomAt(PixelPoint point, int steps) {
   const bool goesOn = zoomedAt;
   BeginCommand();
+  // There is no place between bounds that Zoom In made infinite.
+  if (!IsFinite(ranges)) return lastError = kOutOfRangeText;
   const double x = std::clamp(graph_mapping::XAt(point.x, ranges), ranges.xMin, ranges.xMax);
   const double y = std::clamp(graph_mapping::YAt(point.y, ranges), ranges.yMin, ranges.yMax);
   const double share = std::pow(steps > 0 ? kZoomInShare : kZoomOutShare, std::abs(steps));

@@ -153,6 +153,19 @@ TEST(GraphModel, BoundsThatAreNotFiniteAreRefused) {
   }
 }
 
+TEST(GraphModel, ZoomAtRefusesRangesThatZoomInMadeInfinite) {
+  GraphData data = Graph({L"x"}, {-1.7e308, 1.7e308, -1, 1});
+  data.options.coordinates = false;
+  GraphModel graph = Opened(data);
+  EXPECT_EQ(graph.ZoomIn(), L"");
+  const PlotRanges infinite = graph.Ranges();
+  EXPECT_FALSE(std::isfinite(infinite.xMin));
+  for (const int steps : {1, -1}) {
+    EXPECT_EQ(graph.ZoomAt({119, 175}, steps), L"Out of range(overflow or underflow)");
+    EXPECT_EQ(graph.Ranges(), infinite);
+  }
+}
+
 TEST(GraphModel, ZoomAtKeepsTheValuesAtThePoint) {
   GraphModel graph = Opened(Graph({L"x"}));
   EXPECT_EQ(graph.ZoomAt({165, 260}, 1), L"");
