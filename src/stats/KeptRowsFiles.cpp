@@ -19,11 +19,9 @@ constexpr int kMostFiles = 1000;
 }  // namespace
 
 QString KeptRowsFiles::Path(int number) const {
+  // All at once: a folder's name may have a "%1" of its own.
   return QStringLiteral("%1/unsaved-%2-var-%3%4")
-      .arg(folder)
-      .arg(columns - 1)
-      .arg(number)
-      .arg(kSuffix);
+      .arg(folder, QString::number(columns - 1), QString::number(number), kSuffix);
 }
 
 int KeptRowsFiles::LatestNumber() const {
@@ -74,7 +72,7 @@ FileOutcome KeptRowsFiles::Read(const QString& path, const ProgressWatcher& watc
 
 FileOutcome KeptRowsFiles::SetAside(const QString& path) {
   for (int n = 1; n <= kMostFiles; ++n) {
-    const QString name = QStringLiteral("%1.damaged-%2").arg(path).arg(n);
+    const QString name = QStringLiteral("%1.damaged-%2").arg(path, QString::number(n));
     // The toolkit's renaming overwrites nothing.
     if (QFile::rename(path, name)) {
       return FailedFor(kDamaged + QStringLiteral(", and was renamed to %1").arg(name));

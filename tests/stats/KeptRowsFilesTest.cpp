@@ -24,6 +24,7 @@ class KeptRowsFilesTest : public QObject {
   void ADamagedFileIsRenamed();
   void AStoppedReadingLeavesTheFile();
   void OtherFilesAreNotOffered();
+  void TheFolderMayHaveAnyName();
 
  private:
   KeptRowsFiles Files(std::size_t columns = 2) const { return {dir->filePath("kept"), columns}; }
@@ -64,6 +65,20 @@ void KeptRowsFilesTest::OneAfterTheOther() {
     QVERIFY(QFile::remove(latest));
   }
   QVERIFY(!Files().Latest());
+}
+
+void KeptRowsFilesTest::TheFolderMayHaveAnyName() {
+  const QString folder = dir->filePath(QStringLiteral("100%1 %2 %3 %4"));
+  const KeptRowsFiles files(folder, 2);
+  QCOMPARE(files.Keep(RowsOf("5")).end, FileEnd::Done);
+  const QString kept = folder + QStringLiteral("/unsaved-1-var-1.rows");
+  QCOMPARE(files.Latest(), kept);
+  QFile file(kept);
+  QVERIFY(file.open(QIODevice::Append));
+  QVERIFY(file.putChar('x'));
+  file.close();
+  QCOMPARE(files.Read(kept, Unwatched, data).end, FileEnd::Failed);
+  QVERIFY(QFile::exists(kept + QStringLiteral(".damaged-1")));
 }
 
 void KeptRowsFilesTest::KindsOfDataAreKeptApart() {
