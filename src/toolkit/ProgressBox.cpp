@@ -40,6 +40,8 @@ void ProgressBox::Run(const std::function<void()>& work) {
   }
   const std::unique_ptr<QThread> worker(QThread::create(work));
   worker->start();
+  // Where there is no room for a thread, the window has to wait.
+  if (!worker->isRunning() && !worker->isFinished()) return work();
   if (worker->wait(static_cast<unsigned long>(std::min(patienceMs, kUnseenMs)))) return;
   // What is typed before the box opens is for the window, afterwards.
   if (!dialog) Await(*worker, QEventLoop::ExcludeUserInputEvents, patienceMs - kUnseenMs);

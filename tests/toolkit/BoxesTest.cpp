@@ -1,5 +1,8 @@
 // Boxes that ask and boxes that show progress.
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -7,6 +10,7 @@
 #include <QTest>
 #include <QTimer>
 #include <atomic>
+#include <fstream>
 #include <new>
 #include <thread>
 
@@ -24,6 +28,8 @@ class BoxesTest : public QObject {
     window->show();
     ProgressBox::patienceMs = 200;
   }
+  // The first one: threads that have ended leave room for others.
+  void WorkIsDoneWithoutRoomForAThread();
   void EitherAnswerLeadsOn();
   void EscapeIsNoAnswer();
   void ClosingIsNoAnswer();
@@ -54,6 +60,25 @@ class BoxesTest : public QObject {
   std::unique_ptr<QWidget> window;
   QList<bool> answers;
 };
+
+void BoxesTest::WorkIsDoneWithoutRoomForAThread() {
+#ifdef __SANITIZE_ADDRESS__
+  QSKIP("The sanitizer needs the room.");
+#endif
+  rlim_t pages = 0;
+  std::ifstream("/proc/self/statm") >> pages;
+  rlimit usual{};
+  QCOMPARE(getrlimit(RLIMIT_AS, &usual), 0);
+  constexpr rlim_t kLessThanAThread = rlim_t{1} << 20;
+  const rlimit narrow{pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + kLessThanAThread,
+                      usual.rlim_max};
+  QCOMPARE(setrlimit(RLIMIT_AS, &narrow), 0);
+  const auto here = std::this_thread::get_id();
+  const auto where = RunWithProgress(window.get(), "Working...",
+                                     [](auto) { return std::this_thread::get_id(); });
+  QCOMPARE(setrlimit(RLIMIT_AS, &usual), 0);
+  QVERIFY(where == here);
+}
 
 void BoxesTest::EitherAnswerLeadsOn() {
   answers.clear();
