@@ -90,7 +90,9 @@ void Open(QFileDialog* dialog, const QString& name, const QStringList& filters, 
   dialog->setObjectName(name);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setNameFilters(filters);
-  if (QDir(LastFolder()).exists()) dialog->setDirectory(LastFolder());
+  // An empty name would show all drives.
+  const QString& folder = LastFolder();
+  if (!folder.isEmpty() && QDir(folder).exists()) dialog->setDirectory(folder);
   QObject::connect(dialog, &QFileDialog::finished, dialog->parentWidget(),
                    [dialog, answered = std::move(answered)](int outcome) {
                      if (outcome != QDialog::Accepted) return answered(std::nullopt);

@@ -9,8 +9,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -31,6 +33,8 @@ class FileDialogsTest : public QObject {
     window->show();
     answers.clear();
   }
+  // The first one: no folder was used yet.
+  void TheFirstOneShowsTheCurrentFolder();
   void OpensAnExistingFile();
   void SavesUnderANewName();
   void AddsNoSuffix();
@@ -90,6 +94,14 @@ class FileDialogsTest : public QObject {
   std::unique_ptr<QWidget> window;
   QList<Answer> answers;
 };
+
+void FileDialogsTest::TheFirstOneShowsTheCurrentFolder() {
+  for (QFileDialog* const dialog : {AskToOpen(), AskToSave()}) {
+    const QModelIndex shown = dialog->findChild<QListView*>("listView")->rootIndex();
+    QCOMPARE(shown.data(QFileSystemModel::FilePathRole).toString(), QDir::currentPath());
+    dialog->reject();
+  }
+}
 
 void FileDialogsTest::OpensAnExistingFile() {
   QFileDialog* const dialog = AskToOpen();
