@@ -74,8 +74,8 @@ void BoxesTest::WorkIsDoneWithoutRoomForAThread() {
                       usual.rlim_max};
   QCOMPARE(setrlimit(RLIMIT_AS, &narrow), 0);
   const auto here = std::this_thread::get_id();
-  const auto where = RunWithProgress(window.get(), "Working...",
-                                     [](auto) { return std::this_thread::get_id(); });
+  const auto where =
+      RunWithProgress(window.get(), "Working...", [](auto) { return std::this_thread::get_id(); });
   QCOMPARE(setrlimit(RLIMIT_AS, &usual), 0);
   QVERIFY(where == here);
 }
