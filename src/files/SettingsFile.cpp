@@ -57,6 +57,7 @@ SettingsFile::Stamp SettingsFile::CurrentStamp() const {
 }
 
 SettingsFile::Stored SettingsFile::ReadStored() const {
+  if (folder.empty()) return {fileName, values};
   const std::pair<const std::filesystem::path&, decltype(&ParseSettings)> sources[] = {
       {fileName, ParseSettings}, {oldName, ParseOldSettings}};
   for (const auto& [source, parse] : sources) {
@@ -67,7 +68,8 @@ SettingsFile::Stored SettingsFile::ReadStored() const {
     if (isMissing) continue;
     return {source, error ? std::nullopt : parse(bytes)};
   }
-  return {fileName, SettingsValues()};
+  // A file that was removed meanwhile is written anew, whole.
+  return {fileName, values};
 }
 
 std::error_code SettingsFile::Lock(FileLock& lock) const {

@@ -67,6 +67,27 @@ TEST_F(SettingsFileTest, FileAndFolderAreTheUsersAloneWhateverTheMask) {
   }
 }
 
+TEST_F(SettingsFileTest, AFileThatWasRemovedIsWrittenAnewWhole) {
+  SettingsFile file = Open();
+  file.Set(kMode, 3);
+  file.Set(kAngle, 2);
+  EXPECT_TRUE(file.Save());
+  fs::remove(Name());
+  EXPECT_EQ(Integer(file, kMode), 3);
+  file.Set(kMode, 4);
+  EXPECT_TRUE(file.Save());
+  EXPECT_EQ(Stored(), (SettingsValues{{kMode, 4}, {kAngle, 2}}));
+}
+
+TEST_F(SettingsFileTest, WithoutAFolderNothingIsReadFromTheCurrentOne) {
+  PutBytes(Name(), "{\"Config\":{\"Mode\":2}}");
+  const fs::path before = fs::current_path();
+  fs::current_path(Name().parent_path());
+  SettingsFile file{fs::path()};
+  EXPECT_FALSE(file.Find(kMode));
+  fs::current_path(before);
+}
+
 TEST_F(SettingsFileTest, WithoutAChangeNothingIsWritten) {
   PutBytes(Name(), "{\"Config\":{\"Mode\":2}}");
   SettingsFile file = Open();
