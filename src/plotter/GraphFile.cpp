@@ -62,8 +62,8 @@ QString SaveGraph(const GraphModel& graph, const QString& path) {
   const QByteArray bytes = FormatOf(path).write(graph);
   if (bytes.isEmpty()) return QStringLiteral("There is no room for the picture");
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-  // A write that failed fails the commit, too.
+  // A write that failed fails the commit, too; a buffer's last one would not.
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return file.errorString();
   file.write(bytes);
   return file.commit() ? QString() : file.errorString();
 }

@@ -68,7 +68,8 @@ FileOutcome WritePieces(const QString& path, FileAccess access, const ProgressWa
   const FileOutcome refusal = Refusal(QFileInfo(path));
   if (refusal.end != FileEnd::Done) return refusal;
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return FailedFor(file.errorString());
+  // A buffer's last write fails unseen: the toolkit commits without it.
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return FailedFor(file.errorString());
   if (access == FileAccess::OwnerOnly) file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
   std::string bytes;
   for (double given = 0.0; given < 1.0;) {

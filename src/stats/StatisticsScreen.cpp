@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <cstdio>
 #include <utility>
 
 #include "display/DisplayFormattingDialog.h"
@@ -39,6 +40,13 @@ constexpr int kLeastResultsHeight = 54;
 constexpr int kListRowsFirst = 3;
 
 constexpr const char* kFileFilter = "TXT(*.txt)";
+constexpr const char* kUsualFileName = "data.txt";
+
+/// Nobody can be asked any more, and nothing waits for an answer: a line for whoever reads it.
+void SayThatRowsAreLost(const QString& reason) {
+  std::fprintf(stderr, "Vexa Calculator: the unsaved rows could not be kept: %s\n",
+               qUtf8Printable(reason));
+}
 
 void HideKeyboard() {
   QGuiApplication::inputMethod()->hide();
@@ -65,6 +73,7 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
     : ModeScreen(mode, parent),
       store(settingsStore),
       statistics(settingsStore, columns),
+      fileName(QString::fromLatin1(kUsualFileName)),
       form(new DataEntryForm(columns, this)),
       rowsPane(new RowsPane(statistics.List(), this)),
       table(rowsPane->Table()),
@@ -115,8 +124,12 @@ StatisticsScreen::StatisticsScreen(Mode mode, SettingsStore& settingsStore,
 
 StatisticsScreen::~StatisticsScreen() {
   const bool keeps = !leavesAgreed && statistics.List().IsWorthKeeping();
-  const bool safe = !keeps || keptFiles.Keep(statistics.List().Rows()).end == FileEnd::Done;
-  if (safe && restored) QFile::remove(*restored);
+  const FileOutcome kept = keeps ? keptFiles.Keep(statistics.List().Rows()) : FileOutcome{};
+  if (kept.end != FileEnd::Done) {
+    SayThatRowsAreLost(kept.reason);
+  } else if (restored) {
+    QFile::remove(*restored);
+  }
 }
 
 void StatisticsScreen::BuildMenus() {
@@ -303,10 +316,9 @@ void StatisticsScreen::SaveTo(const QString& path, const std::function<void()>& 
   const FileOutcome outcome = RunWithProgress(this, QStringLiteral("Saving..."), [&](auto watcher) {
     return SaveDataFile(path, statistics.List().Rows(), watcher);
   });
-  if (outcome.end == FileEnd::Failed) {
-    fileName = QFileInfo(path).fileName();
-    file_dialogs::ShowFileError(this, path, outcome.reason);
-  }
+  fileName = outcome.end == FileEnd::Done ? QString::fromLatin1(kUsualFileName)
+                                          : QFileInfo(path).fileName();
+  if (outcome.end == FileEnd::Failed) file_dialogs::ShowFileError(this, path, outcome.reason);
   // The rows are still to be saved: what was to come next could lose them.
   if (outcome.end != FileEnd::Done) return;
   statistics.Saved();

@@ -116,7 +116,7 @@ class StatisticsScreen : public ModeScreen {
   SettingsStore& store;
   Statistics statistics;
   /// The name that the file dialog proposes: one that was tried and failed, else the usual one.
-  QString fileName = QStringLiteral("data.txt");
+  QString fileName;
   DataEntryForm* form;
   RowsPane* rowsPane;
   DataTableView* table;

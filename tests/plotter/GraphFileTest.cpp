@@ -14,6 +14,7 @@
 #include "plotter/GraphBitmap.h"
 #include "plotter/GraphImage.h"
 #include "plotter/Palette16.h"
+#include "support/FullDisk.h"
 
 namespace vexa {
 
@@ -29,6 +30,8 @@ class GraphFileTest : public QObject {
   void AnySuffixElseIsABitmap();
   void AFileIsReplacedWhole();
   void AFailedSaveLeavesTheOldFile();
+  void AFullDiskLeavesTheOldFile_data();
+  void AFullDiskLeavesTheOldFile();
 
  private:
   static QRgb Pixel(const RasterCanvas& picture, int column, int row) {
@@ -169,6 +172,28 @@ void GraphFileTest::AFailedSaveLeavesTheOldFile() {
   QCOMPARE(SaveGraph(Example(), folder.filePath(QStringLiteral("none/graph.bmp"))),
            QStringLiteral("No such file or directory"));
   QCOMPARE(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).size(), 1);
+}
+
+void GraphFileTest::AFullDiskLeavesTheOldFile_data() {
+  QTest::addColumn<QString>("name");
+  for (const char* name : {"graph.bmp", "graph.png", "graph.svg"}) QTest::newRow(name) << name;
+}
+
+void GraphFileTest::AFullDiskLeavesTheOldFile() {
+  QFETCH(QString, name);
+  QTemporaryDir folder;
+  QFile file(folder.filePath(name));
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  QCOMPARE(file.write("old"), qint64{3});
+  file.close();
+  const GraphModel graph = Example();
+  {
+    const test::FullDisk full(0);
+    QVERIFY(!SaveGraph(graph, file.fileName()).isEmpty());
+  }
+  QVERIFY(file.open(QIODevice::ReadOnly));
+  QCOMPARE(file.readAll(), QByteArray("old"));
+  QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{name});
 }
 
 }  // namespace vexa

@@ -1,49 +1,32 @@
 // Saving, loading and leaving: what is asked, what goes wrong, what a long operation shows.
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
-#include <csignal>
 
 #include "stats/StatisticsScreenDriver.h"
+#include "support/FullDisk.h"
 #include "toolkit/FileDialogs.h"
 #include "toolkit/ProgressBox.h"
 
 namespace vexa {
 
 using file_dialogs::AddNextAnswer;
+using test::FullDisk;
 using test::StatisticsScreenDriver;
 
 namespace {
 
 const QString kSaveQuestion = QStringLiteral("Do you want to save changes to Data?");
 const QString kFileError = QStringLiteral("File Error");
-
-/// Files of this process cannot grow beyond a size, as if the disk were full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size) {
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit limit{size, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-    handler = std::signal(SIGXFSZ, SIG_IGN);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-  }
-
- private:
-  rlimit before{};
-  void (*handler)(int);
-};
 
 QByteArray ManyRows(int count) {
   QByteArray bytes;
@@ -78,9 +61,15 @@ class StatisticsFilesTest : public QObject {
   void MalformedFiles();
   void UnreadableFiles_data();
   void UnreadableFiles();
+  void AFullDiskKeepsTheOldFile_data();
   void AFullDiskKeepsTheOldFile();
   void UnwritablePlaces_data();
   void UnwritablePlaces();
+  void TheSaveDialogSaysWhatIsSaved();
+  void TheLoadDialogOffersAllFiles();
+  void AFailedNameIsProposedUntilASaveSucceeds();
+  void TheDialogsOpenInTheFolderUsedLast();
+  void NoSuffixIsAdded();
   void LeavingAsks_data();
   void LeavingAsks();
   void LeavingSavesFirst();
@@ -111,6 +100,13 @@ class StatisticsFilesTest : public QObject {
     AddNextAnswer(path);
     one->Press("Load");
   }
+  /// The file dialog that waits for an answer, or null.
+  QFileDialog* Dialog() const { return one->screen->findChild<QFileDialog*>(); }
+  static QLineEdit* NameBox(const QFileDialog* dialog) {
+    return dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  }
+  /// Types the name and presses the dialog's button.
+  void Choose(const QString& folder, const QString& name, QDialogButtonBox::StandardButton button);
   /// True: leaving would ask.
   bool HasUnsavedData();
   /// Presses "Cancel" as soon as the progress is shown.
@@ -304,13 +300,22 @@ void StatisticsFilesTest::UnreadableFiles() {
   QCOMPARE(one->Total(), QStringLiteral("1"));
 }
 
+void StatisticsFilesTest::AFullDiskKeepsTheOldFile_data() {
+  QTest::addColumn<int>("rows");
+  QTest::addColumn<int>("room");
+  QTest::newRow("some of many rows have room") << 20000 << 4096;
+  QTest::newRow("no row has room") << 2 << 0;
+}
+
 void StatisticsFilesTest::AFullDiskKeepsTheOldFile() {
+  QFETCH(int, rows);
+  QFETCH(int, room);
   const QByteArray old = "1\t1\r\n2\t1\r\n";
   one->PutFile("data.txt", old);
-  one->Load(ManyRows(20000));
+  one->Load(ManyRows(rows));
   one->Add({"1", "5"});
   {
-    const FullDisk full(4096);
+    const FullDisk full(static_cast<rlim_t>(room));
     SaveAs(one->FileName("data.txt"));
   }
   QCOMPARE(one->BoxText(), kFileError);
@@ -338,6 +343,69 @@ void StatisticsFilesTest::UnwritablePlaces() {
   QCOMPARE(one->BoxText(), kFileError);
   one->Answer(QMessageBox::Ok);
   QVERIFY(HasUnsavedData());
+}
+
+void StatisticsFilesTest::Choose(const QString& folder, const QString& name,
+                                 QDialogButtonBox::StandardButton button) {
+  QFileDialog* const dialog = Dialog();
+  QVERIFY(dialog);
+  dialog->setDirectory(folder);
+  NameBox(dialog)->setText(name);
+  dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+  QTRY_VERIFY(!Dialog());
+}
+
+void StatisticsFilesTest::TheSaveDialogSaysWhatIsSaved() {
+  AddTwo();
+  one->Press("Save");
+  QVERIFY(Dialog());
+  QCOMPARE(Dialog()->windowTitle(), QStringLiteral("Save Data"));
+  QCOMPARE(Dialog()->nameFilters(), QStringList{"TXT(*.txt)"});
+  QCOMPARE(NameBox(Dialog())->text(), QStringLiteral("data.txt"));
+  QCOMPARE(NameBox(Dialog())->selectedText(), QStringLiteral("data.txt"));
+}
+
+void StatisticsFilesTest::TheLoadDialogOffersAllFiles() {
+  one->Press("Load");
+  QVERIFY(Dialog());
+  QCOMPARE(Dialog()->windowTitle(), QStringLiteral("Load Data"));
+  QCOMPARE(Dialog()->nameFilters(), (QStringList{"TXT(*.txt)", "All files (*)"}));
+  one->PutFile("rows.dat", "5\t2\r\n");
+  Choose(QFileInfo(one->FileName("rows.dat")).path(), "rows.dat", QDialogButtonBox::Open);
+  QCOMPARE(one->Rows(), (QStringList{"5 2"}));
+}
+
+void StatisticsFilesTest::AFailedNameIsProposedUntilASaveSucceeds() {
+  AddTwo();
+  SaveAs("/no/such/folder/march.txt");
+  one->Answer(QMessageBox::Ok);
+  one->Press("Save");
+  QCOMPARE(NameBox(Dialog())->text(), QStringLiteral("march.txt"));
+  Choose(QFileInfo(one->FileName("april.txt")).path(), "april.txt", QDialogButtonBox::Save);
+  QCOMPARE(one->FileBytes("april.txt"), QByteArray("4\t1\r\n2.5\t3\r\n"));
+  one->Press("Save");
+  QCOMPARE(NameBox(Dialog())->text(), QStringLiteral("data.txt"));
+}
+
+void StatisticsFilesTest::TheDialogsOpenInTheFolderUsedLast() {
+  AddTwo();
+  const QString folder = QFileInfo(one->FileName("rows.txt")).path();
+  one->Press("Save");
+  Choose(folder, "rows.txt", QDialogButtonBox::Save);
+  one->Press("Load");
+  QCOMPARE(Dialog()->directory(), QDir(folder));
+  Dialog()->reject();
+  QTRY_VERIFY(!Dialog());
+  one->Press("Save");
+  QCOMPARE(Dialog()->directory(), QDir(folder));
+}
+
+void StatisticsFilesTest::NoSuffixIsAdded() {
+  AddTwo();
+  one->Press("Save");
+  const QString folder = QFileInfo(one->FileName("rows")).path();
+  Choose(folder, "rows", QDialogButtonBox::Save);
+  QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{"rows"});
 }
 
 void StatisticsFilesTest::LeavingAsks_data() {

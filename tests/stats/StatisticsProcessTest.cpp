@@ -1,6 +1,7 @@
 // Leaving with unsaved data, as a process: what is asked, what a signal does, what is left behind.
 
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <QDir>
@@ -36,6 +37,8 @@ class StatisticsProcessTest : public QObject {
   void WhatNobodyWasAskedAboutIsKept_data();
   void WhatNobodyWasAskedAboutIsKept();
   void WhatWasAskedAboutIsNotKept();
+  void RowsThatCannotBeKeptAreSaid_data() { SignalsDoNotWaitForData_data(); }
+  void RowsThatCannotBeKeptAreSaid();
 
  private:
   void Wish(const char* name, const QString& value) {
@@ -54,10 +57,13 @@ class StatisticsProcessTest : public QObject {
   QProcessEnvironment environment;
   std::unique_ptr<QProcess> process;
   QByteArray said;
+  /// No file of the program can grow, as if the disk were full.
+  bool fullDisk = false;
 };
 
 void StatisticsProcessTest::init() {
   dir = std::make_unique<QTemporaryDir>();
+  fullDisk = false;
   environment = QProcessEnvironment::systemEnvironment();
   Wish("QT_QPA_PLATFORM", "offscreen");
   Wish("XDG_CONFIG_HOME", dir->filePath("config"));
@@ -80,7 +86,14 @@ void StatisticsProcessTest::cleanup() {
 void StatisticsProcessTest::Start() {
   process = std::make_unique<QProcess>();
   process->setProcessEnvironment(environment);
-  process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  if (fullDisk) {
+    process->setChildProcessModifier([] {
+      const rlimit nothing{0, 0};
+      setrlimit(RLIMIT_FSIZE, &nothing);
+    });
+  } else {
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  }
   said.clear();
   process->start(QStringLiteral(VEXA_STATISTICS_USER), QStringList());
   QVERIFY(process->waitForStarted(kPatienceMs));
@@ -212,6 +225,25 @@ void StatisticsProcessTest::WhatWasAskedAboutIsNotKept() {
   WaitFor("nothing to restore");
   kill(static_cast<pid_t>(process->processId()), SIGTERM);
   ExpectGoodEnd();
+}
+
+void StatisticsProcessTest::RowsThatCannotBeKeptAreSaid() {
+  QFETCH(int, signalNumber);
+  const QByteArray stored = Bytes("config/Vexa Calculator/settings.json");
+  fullDisk = true;
+  Wish("VEXA_TEST_DO", "exit");
+  Start();
+  WaitFor("ready");
+  kill(static_cast<pid_t>(process->processId()), signalNumber);
+  QVERIFY(process->waitForFinished(kPatienceMs));
+  QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+  QCOMPARE(process->exitCode(), 0);
+  const QByteArray complaint = process->readAllStandardError();
+  QVERIFY2(
+      complaint.contains("Vexa Calculator: the unsaved rows could not be kept: File too large\n"),
+      complaint.constData());
+  QCOMPARE(Bytes("config/Vexa Calculator/settings.json"), stored);
+  QVERIFY(!QFile::exists(dir->filePath("config/Vexa Calculator/unsaved-1-var-1.rows")));
 }
 
 }  // namespace vexa
