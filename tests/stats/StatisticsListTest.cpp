@@ -1,5 +1,8 @@
 // The data list on both screens: adding, editing, deleting, clearing, sorting, by mouse and keys.
 
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QTest>
@@ -29,6 +32,9 @@ class StatisticsListTest : public QObject {
   void KeysAfterEachRow();
   void SaysWhatIsWrongAndGoesThere_data();
   void SaysWhatIsWrongAndGoesThere();
+  void ReadsNumbersAsOthersWriteThem_data();
+  void ReadsNumbersAsOthersWriteThem();
+  void TakesTextThatAssistiveTechnologySets();
   void SelectingEnablesEditAndDelete();
   void EditingShowsOkAndCancel();
   void RowsStayReadableWhileOneIsEdited();
@@ -152,6 +158,69 @@ void StatisticsListTest::SaysWhatIsWrongAndGoesThere() {
   QVERIFY(two->Edit(edit)->hasFocus());
   QVERIFY(two->Rows().isEmpty());
   QCOMPARE(two->Total(), QStringLiteral("0"));
+}
+
+void StatisticsListTest::ReadsNumbersAsOthersWriteThem_data() {
+  QTest::addColumn<QString>("pasted");
+  QTest::addColumn<QString>("edit");
+  QTest::addColumn<QString>("row");
+  QTest::newRow("typeset minus") << QStringLiteral("\u22123.5") << "X"
+                                 << "-3.5 2 1";
+  QTest::newRow("hard blank") << QStringLiteral("1\u00a0234.5") << "X"
+                              << "1234.5 2 1";
+  QTest::newRow("thin blank") << QStringLiteral("1\u2009234.5") << "Y"
+                              << "1 1234.5 1";
+  QTest::newRow("narrow blank") << QStringLiteral("1\u202f234\u202f567.5") << "Y"
+                                << "1 1234567.5 1";
+  QTest::newRow("commas") << QStringLiteral("-1,234.5") << "X"
+                          << "-1234.5 2 1";
+  QTest::newRow("blanks around") << QStringLiteral("\u2009\u00a07 ") << "X"
+                                 << "7 2 1";
+  QTest::newRow("typeset exponent") << QStringLiteral("25e\u22121") << "Y"
+                                    << "1 2.5 1";
+  QTest::newRow("grouped count") << QStringLiteral("1\u00a0234") << "Cnt"
+                                 << "1 2 1234";
+  QTest::newRow("negative count") << QStringLiteral("\u22121,234") << "Cnt"
+                                  << "1 2 -1234";
+}
+
+void StatisticsListTest::ReadsNumbersAsOthersWriteThem() {
+  QFETCH(QString, pasted);
+  QFETCH(QString, edit);
+  QFETCH(QString, row);
+  two = std::make_unique<StatisticsScreenDriver>(Mode::TwoVarStatistics);
+  two->Type({"1", "2", "1"});
+  two->Edit(edit)->setFocus();
+  two->Edit(edit)->selectAll();
+  QApplication::clipboard()->setText(pasted);
+  two->Command("Edit", "Paste");
+  two->Press("Add");
+  QCOMPARE(two->BoxText(), QStringLiteral("no box"));
+  QCOMPARE(two->Rows(), QStringList{row});
+}
+
+void StatisticsListTest::TakesTextThatAssistiveTechnologySets() {
+  const auto set = [this](const char* name, const QString& text) {
+    QAccessibleInterface* const edit =
+        QAccessible::queryAccessibleInterface(one->Edit(QString::fromLatin1(name)));
+    edit->setText(QAccessible::Value, text);
+    edit->editableTextInterface()->replaceText(0, edit->textInterface()->characterCount(), text);
+  };
+  set("X", QStringLiteral("2.5"));
+  set("Count", QStringLiteral("3"));
+  one->Press("Add");
+  set("X", QStringLiteral("4"));
+  one->Press("Add");
+  QCOMPARE(one->Rows(), (QStringList{"4 3", "2.5 3"}));
+  // While a row is edited such a text counts as typed: it is not lost without a question.
+  one->SelectRows({0});
+  one->Press("Edit");
+  set("X", QStringLiteral("9"));
+  QTest::keyClick(one->Edit("X"), Qt::Key_Escape);
+  QVERIFY(one->Box());
+  one->Answer(QMessageBox::No);
+  one->Press("Ok");
+  QCOMPARE(one->Rows(), (QStringList{"9 3", "2.5 3"}));
 }
 
 void StatisticsListTest::SelectingEnablesEditAndDelete() {
