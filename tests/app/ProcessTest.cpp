@@ -55,6 +55,8 @@ class ProcessTest : public QObject {
   void AStartBesideAStoppedCopyOpens();
   void TerminationSavesEverything_data();
   void TerminationSavesEverything();
+  void TerminationDoesNotWaitForSettings_data();
+  void TerminationDoesNotWaitForSettings();
   void TheStoreOfAnEarlierRunIsFound();
   void AKillBlocksNothing();
   void AKillWhileSavingLeavesOldOrNew();
@@ -248,6 +250,26 @@ void ProcessTest::TerminationSavesEverything() {
     QVERIFY2(stored[name] == value, qPrintable(QString::fromStdWString(name.second)));
   }
   QVERIFY((stored.contains({L"Window", L"Width"})));
+}
+
+void ProcessTest::TerminationDoesNotWaitForSettings_data() {
+  QTest::addColumn<QString>("launcher");
+  QTest::newRow("a full disk") << QStringLiteral("ulimit -f 0;");
+  QTest::newRow("a link to a folder that is gone") << QStringLiteral(
+      "mkdir -p \"$XDG_CONFIG_HOME/Vexa Calculator\"; "
+      "ln -s /no/such/folder/settings.json \"$XDG_CONFIG_HOME/Vexa Calculator/\";");
+  QTest::newRow("a file in the folder's place")
+      << QStringLiteral("mkdir -p \"$XDG_CONFIG_HOME\"; : > \"$XDG_CONFIG_HOME/Vexa Calculator\";");
+}
+
+void ProcessTest::TerminationDoesNotWaitForSettings() {
+  QFETCH(QString, launcher);
+  QProcess* const process = Start(launcher);
+  WaitUntilIdle(*process);
+  End(process, SIGTERM);
+  QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+  QCOMPARE(process->exitCode(), 0);
+  QVERIFY2(Bytes(StoreName()).isEmpty(), "nothing could be written");
 }
 
 void ProcessTest::TheStoreOfAnEarlierRunIsFound() {
