@@ -4,7 +4,10 @@ vexa_rule_test(toolkit_rules_test
   toolkit/LineTextTest.cpp
   toolkit/ModesTest.cpp
   toolkit/TypedSearchTest.cpp)
-vexa_rule_test(app_window_rules_test app/CalculatorKeypadTest.cpp app/WindowPlaceTest.cpp)
+vexa_rule_test(app_window_rules_test
+  app/CalculatorKeypadTest.cpp
+  app/CommandLineTest.cpp
+  app/WindowPlaceTest.cpp)
 
 vexa_screen_test(edit_line_test toolkit/EditLineTest.cpp)
 vexa_screen_test(edit_line_composing_test toolkit/EditLineComposingTest.cpp)
@@ -65,3 +68,4 @@ vexa_screen_test(user_conversion_save_test converter/UserConversionSaveTest.cpp)
 vexa_screen_test(user_define_category_test converter/UserDefineCategoryTest.cpp)
 vexa_screen_test(converter_round_trip_test converter/ConverterRoundTripTest.cpp)
 vexa_screen_test(touch_combo_box_test toolkit/TouchComboBoxTest.cpp)
+vexa_screen_test(guide_window_test guide/GuideWindowTest.cpp)

@@ -8,6 +8,8 @@
 #include "app/PlaceKeeper.h"
 #include "display/SettingsLayout.h"
 #include "display/WideText.h"
+#include "guide/GuideOnF1.h"
+#include "guide/GuidePages.h"
 #include "plotter/PlotterScreen.h"
 #include "stats/OneVarScreen.h"
 #include "stats/TwoVarScreen.h"
@@ -70,7 +72,21 @@ void MainFrame::CreateScreen(Mode mode) {
   // Queued: the screen's own menu is still at work when it says what was chosen.
   connect(screen.get(), &ModeScreen::ModeChosen, this, &MainFrame::SwitchMode,
           Qt::QueuedConnection);
+  connect(screen.get(), &ModeScreen::GuideChosen, this,
+          [this, shown = screen.get()] { emit GuideChosen(GuidePageOf(shown)); });
+  connect(screen.get(), &ModeScreen::KeysChosen, this,
+          [this] { emit GuideChosen(kKeysAndFunctionsPage); });
   connect(screen.get(), &ModeScreen::ExitChosen, this, &MainFrame::Exit, Qt::QueuedConnection);
+}
+
+void MainFrame::AskForMode(Mode mode) {
+  const int code = static_cast<int>(mode);
+  const auto& screen = screens[IndexOf(ModeOfCode(modeCode))];
+  if (!screen) {
+    modeCode = code;
+  } else if (code != modeCode && !QApplication::activeModalWidget()) {
+    screen->LeaveFor(code);
+  }
 }
 
 void MainFrame::Exit() {

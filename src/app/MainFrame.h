@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <array>
 #include <memory>
+#include <string_view>
 
 #include "display/SettingsStore.h"
 #include "toolkit/Modes.h"
@@ -26,6 +27,9 @@ class MainFrame : public QWidget {
   /// Stores the state of the screen that is shown, shows the screen of the mode with this code,
   /// then destroys the one of the mode before.
   void SwitchMode(int code);
+  /// Switches to this mode as the menu does: once the screen that is shown has nothing to ask. Not
+  /// while a dialog waits for an answer; before the first screen is there it becomes the first.
+  void AskForMode(Mode mode);
   /// Hides the frame, then closes it.
   void Exit();
   /// Shows `sentence` in a strip below the screen until the user dismisses it.
@@ -37,6 +41,8 @@ class MainFrame : public QWidget {
   /// The first screen is there.
   void Started();
   void Closed();
+  /// A page of the guide was asked for.
+  void GuideChosen(std::string_view page);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -35,19 +35,30 @@ std::string ActivationToken() {
   return token.empty() ? Environment("DESKTOP_STARTUP_ID") : token;
 }
 
+/// Between the parts of a wish: no token of a desktop holds one.
+constexpr char kSeparator = '\t';
+
+/// What a running copy is asked for.
+std::string WishFor(std::optional<Mode> mode) {
+  std::string wish = ActivationToken();
+  if (wish.find(kSeparator) != wish.npos) wish.clear();
+  if (mode) wish += kSeparator + std::string(kModes[IndexOf(*mode)].word);
+  return wish;
+}
+
 }  // namespace
 
 SingleInstance::SingleInstance(std::chrono::milliseconds startPatience) : patience(startPatience) {}
 
 SingleInstance::~SingleInstance() = default;
 
-SingleInstance::Role SingleInstance::Claim() {
+SingleInstance::Role SingleInstance::Claim(std::optional<Mode> mode) {
   folder = InstanceFolder();
   if (folder.empty()) return Role::Only;
   const Clock::time_point end = Clock::now() + patience;
   for (;;) {
     // First, for a copy that runs beside one that hung has no lock.
-    const Answered answered = AskRunningCopy(folder, ActivationToken());
+    const Answered answered = AskRunningCopy(folder, WishFor(mode));
     if (answered == Answered::Yes) return Role::Second;
     if (lock.Acquire(folder / kLockName, std::chrono::milliseconds(0)) != kLockIsTaken) {
       return Role::Only;
@@ -73,7 +84,10 @@ void SingleInstance::StopListening() {
 
 void SingleInstance::Answer() {
   while (std::optional<CopyRequest> request = TakeRequest(listener)) {
-    emit FrontRequested(QByteArray::fromStdString(request->token));
+    const QByteArray wish = QByteArray::fromStdString(request->token);
+    const qsizetype end = wish.indexOf(kSeparator);
+    emit FrontRequested(end < 0 ? wish : wish.left(end),
+                        end < 0 ? QByteArray() : wish.mid(end + 1));
     request->Grant();
   }
 }

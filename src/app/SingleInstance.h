@@ -4,8 +4,10 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "files/FileLock.h"
+#include "toolkit/Modes.h"
 
 class QSocketNotifier;
 
@@ -31,17 +33,19 @@ class SingleInstance : public QObject {
   explicit SingleInstance(std::chrono::milliseconds startPatience = std::chrono::seconds(10));
   ~SingleInstance() override;
 
-  /// Finds out what this start is. Needs no application object.
-  Role Claim();
+  /// Finds out what this start is; a copy that runs is asked to show `mode` where there is one.
+  /// Needs no application object.
+  Role Claim(std::optional<Mode> mode = {});
   /// From now on other copies' wishes are reported and answered. Needs the application object.
   void Listen();
   /// From now on another copy waits until this one has ended, and takes its place.
   void StopListening();
 
  signals:
-  /// Another copy was started, with this token of the desktop's permission to take the focus. It
-  /// has its answer when this returns.
-  void FrontRequested(const QByteArray& activationToken);
+  /// Another copy was started, with this token of the desktop's permission to take the focus, and
+  /// the word of the mode that it was asked for, which may be empty or unknown. It has its answer
+  /// when this returns.
+  void FrontRequested(const QByteArray& activationToken, const QByteArray& modeWord);
 
  private:
   void Answer();

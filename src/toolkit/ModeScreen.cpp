@@ -27,6 +27,7 @@ ModeScreen::ModeScreen(Mode mode, QWidget* parent)
   setAutoFillBackground(true);
   BuildFileMenu();
   BuildModeMenu(mode);
+  BuildHelpMenu();
 }
 
 void ModeScreen::BuildFileMenu() {
@@ -48,16 +49,26 @@ void ModeScreen::BuildModeMenu(Mode mode) {
   auto* const group = new QActionGroup(menu);
   for (const ModeName& entry : kModes) {
     const int code = static_cast<int>(entry.mode);
-    const auto choose = [this, code] { emit ModeChosen(code); };
     // The own mode is not left.
-    QAction* const action = entry.mode == mode
-                                ? menu->addAction(FromWide(entry.name), this, choose)
-                                : menu->addAction(FromWide(entry.name), this,
-                                                  [this, choose] { PrepareToLeave(choose); });
+    QAction* const action =
+        entry.mode == mode
+            ? menu->addAction(FromWide(entry.name), this, [this, code] { emit ModeChosen(code); })
+            : menu->addAction(FromWide(entry.name), this, [this, code] { LeaveFor(code); });
     action->setCheckable(true);
     action->setChecked(entry.mode == mode);
     group->addAction(action);
   }
+}
+
+void ModeScreen::BuildHelpMenu() {
+  QMenu* const menu = menuBar->addMenu(tr("&Help"));
+  // F1 is the whole program's, in dialogs too: here it is only shown.
+  menu->addAction(tr("&Guide") + QStringLiteral("\tF1"), this, &ModeScreen::GuideChosen);
+  menu->addAction(tr("&Keys and Functions"), this, &ModeScreen::KeysChosen);
+}
+
+void ModeScreen::LeaveFor(int code) {
+  PrepareToLeave([this, code] { emit ModeChosen(code); });
 }
 
 void ModeScreen::Exit() {

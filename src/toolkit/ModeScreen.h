@@ -21,6 +21,9 @@ class ModeScreen : public QWidget {
  public:
   ModeScreen(Mode mode, QWidget* parent);
 
+  /// Says that the mode with this code was chosen, once nothing stands against leaving.
+  void LeaveFor(int code);
+
   /// Stores what the user has changed, if it is not stored already: before another mode's screen
   /// reads it, and before the screen goes.
   virtual void StoreState() {}
@@ -29,6 +32,9 @@ class ModeScreen : public QWidget {
   /// Another mode was chosen: its stored code.
   void ModeChosen(int code);
   void ExitChosen();
+  /// What explains this screen was chosen, or what explains the keys.
+  void GuideChosen();
+  void KeysChosen();
 
  protected:
   /// Another mode or the exit was chosen: runs `leave` once nothing stands against it. A screen
@@ -60,6 +66,7 @@ class ModeScreen : public QWidget {
   void BuildFileMenu();
   QAction* NewFileCommand(const QString& text);
   void BuildModeMenu(Mode mode);
+  void BuildHelpMenu();
   void Exit();
   void ShowAbout();
 

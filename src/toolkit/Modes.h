@@ -13,18 +13,19 @@ enum class Mode : int {
   TwoVarStatistics = 4,
 };
 
-/// A mode and its name in menus.
+/// A mode, its name in menus and its word on the command line.
 struct ModeName {
   Mode mode;
   std::wstring_view name;
+  std::string_view word;
 };
 
 /// The modes in the order of the "Mode" menu.
 inline constexpr std::array<ModeName, 4> kModes{{
-    {Mode::ScientificCalculator, L"Scientific Calculator"},
-    {Mode::FunctionPlotter, L"Function Plotter"},
-    {Mode::OneVarStatistics, L"1-Var Statistics"},
-    {Mode::TwoVarStatistics, L"2-Var Statistics"},
+    {Mode::ScientificCalculator, L"Scientific Calculator", "calculator"},
+    {Mode::FunctionPlotter, L"Function Plotter", "plotter"},
+    {Mode::OneVarStatistics, L"1-Var Statistics", "1-var"},
+    {Mode::TwoVarStatistics, L"2-Var Statistics", "2-var"},
 }};
 
 /// The mode whose screen a stored code shows: any code outside the enum counts as the last mode.

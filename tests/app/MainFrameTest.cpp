@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QPointer>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -39,6 +40,8 @@ class MainFrameTest : public QObject {
   void ScreensFillTheFrame();
   void ComesToTheFrontWhenMinimised();
   void ThePopUpComesToTheFront();
+  void AModeCanBeAskedForFromOutside();
+  void HelpSaysWhichPage();
 
  private:
   void Open();
@@ -64,6 +67,34 @@ void MainFrameTest::Open() {
   frame = std::make_unique<MainFrame>(*store);
   frame->show();
   QTRY_VERIFY(frame->findChild<ModeScreen*>());
+}
+
+void MainFrameTest::AModeCanBeAskedForFromOutside() {
+  // Before the first screen is there it becomes the first.
+  frame = std::make_unique<MainFrame>(*store);
+  frame->AskForMode(Mode::FunctionPlotter);
+  frame->show();
+  QTRY_COMPARE(Screen(), QByteArray("vexa::PlotterScreen"));
+  frame->AskForMode(Mode::ScientificCalculator);
+  QTRY_COMPARE(Screen(), QByteArray("vexa::CalculatorScreen"));
+  QCOMPARE(StoredMode(), 1);
+  // A dialog that waits for an answer keeps its screen.
+  frame->findChild<QPushButton*>(QStringLiteral("Cnv"))->click();
+  QTRY_VERIFY(QApplication::activeModalWidget());
+  frame->AskForMode(Mode::FunctionPlotter);
+  QCoreApplication::processEvents();
+  QCOMPARE(Screen(), QByteArray("vexa::CalculatorScreen"));
+}
+
+void MainFrameTest::HelpSaysWhichPage() {
+  Open();
+  QStringList pages;
+  connect(frame.get(), &MainFrame::GuideChosen, this, [&pages](std::string_view page) {
+    pages << QString::fromUtf8(page.data(), static_cast<qsizetype>(page.size()));
+  });
+  Choose(QStringLiteral("Help"), QStringLiteral("Guide\tF1"));
+  Choose(QStringLiteral("Help"), QStringLiteral("Keys and Functions"));
+  QCOMPARE(pages, QStringList({QStringLiteral("calculator"), QStringLiteral("keys-and-functions")}));
 }
 
 void MainFrameTest::Choose(const QString& menuTitle, const QString& text) {

@@ -40,6 +40,27 @@ bool HandlesSignals(qint64 process) {
   return caught & (quint64{1} << (SIGTERM - 1));
 }
 
+/// What a start without any display answers: its exit status and what it said.
+struct Outcome {
+  int status;
+  QByteArray output;
+  QByteArray errors;
+};
+Outcome StartWithoutDisplay(const QStringList& arguments) {
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    environment.remove(QLatin1String(name));
+  }
+  const QTemporaryDir folder;
+  environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  process.start(QStringLiteral(VEXA_PROGRAM), arguments);
+  const bool ended = process.waitForFinished(kPatienceMs);
+  return {ended && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+          process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
 }  // namespace
 
 /// The program as a process of its own, with folders of its own.
@@ -49,6 +70,8 @@ class ProcessTest : public QObject {
  private slots:
   void init();
   void cleanup();
+  void HelpAndVersionNeedNoDisplay();
+  void WithoutADisplayASentenceIsSaid();
   void ASecondStartEndsWithStatusZero();
   void OfManyStartsAtOnceOneSurvives();
   void AStartWhileTheFirstEndsTakesItsPlace();
@@ -146,6 +169,23 @@ void ProcessTest::PutStore(const QByteArray& bytes) const {
   QFile file(StoreName());
   QVERIFY(file.open(QIODevice::WriteOnly));
   QCOMPARE(file.write(bytes), bytes.size());
+}
+
+void ProcessTest::HelpAndVersionNeedNoDisplay() {
+  const Outcome help = StartWithoutDisplay({QStringLiteral("--help")});
+  QCOMPARE(help.status, 0);
+  QVERIFY(help.output.startsWith("Usage: vexa-calculator"));
+  QCOMPARE(StartWithoutDisplay({QStringLiteral("--version")}).status, 0);
+  const Outcome wrong = StartWithoutDisplay({QStringLiteral("--mode=graph")});
+  QCOMPARE(wrong.status, 2);
+  QVERIFY(wrong.errors.startsWith("There is no mode \"graph\""));
+}
+
+void ProcessTest::WithoutADisplayASentenceIsSaid() {
+  const Outcome start = StartWithoutDisplay({});
+  QCOMPARE(start.status, 1);
+  QCOMPARE(start.errors,
+           QByteArray("Vexa Calculator needs a display, and there is none that it can use.\n"));
 }
 
 void ProcessTest::ASecondStartEndsWithStatusZero() {

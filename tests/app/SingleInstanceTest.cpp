@@ -37,6 +37,7 @@ class SingleInstanceTest : public QObject {
   void TheSessionsFolderMakesNoDifference();
   void AFolderWithALongNameServes();
   void AnythingInTheirPlaceIsReplaced_data();
+  void TheModeReachesTheFirst();
   void AnythingInTheirPlaceIsReplaced();
   void WhatCannotBeReplacedDoesNotBlock();
   void WithoutTheSettingsFolderTheSessionsServes();
@@ -45,8 +46,8 @@ class SingleInstanceTest : public QObject {
  private:
   fs::path Own() const { return *dir / "config/Vexa Calculator"; }
   /// What a second start is, while the event loop runs.
-  Role ClaimOfAnother() {
-    auto role = std::async(std::launch::async, [] { return SingleInstance().Claim(); });
+  Role ClaimOfAnother(std::optional<Mode> mode = {}) {
+    auto role = std::async(std::launch::async, [mode] { return SingleInstance().Claim(mode); });
     while (role.wait_for(std::chrono::milliseconds(0)) != std::future_status::ready) {
       QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     }
@@ -102,6 +103,23 @@ void SingleInstanceTest::TheTokenReachesTheFirst() {
   QCOMPARE(ClaimOfAnother(), Role::Second);
   QCOMPARE(wishes.size(), qsizetype{1});
   QCOMPARE(wishes.first().first().toByteArray(), received);
+}
+
+void SingleInstanceTest::TheModeReachesTheFirst() {
+  SingleInstance first;
+  QCOMPARE(first.Claim(), Role::Only);
+  first.Listen();
+  QSignalSpy wishes(&first, &SingleInstance::FrontRequested);
+  qputenv("XDG_ACTIVATION_TOKEN", "abc");
+  QCOMPARE(ClaimOfAnother(Mode::OneVarStatistics), Role::Second);
+  QCOMPARE(wishes.size(), qsizetype{1});
+  QCOMPARE(wishes[0].at(0).toByteArray(), QByteArray("abc"));
+  QCOMPARE(wishes[0].at(1).toByteArray(), QByteArray("1-var"));
+  // A token that could be read as something else is not handed on.
+  qputenv("XDG_ACTIVATION_TOKEN", "a\tplotter");
+  QCOMPARE(ClaimOfAnother(), Role::Second);
+  QCOMPARE(wishes[1].at(0).toByteArray(), QByteArray());
+  QCOMPARE(wishes[1].at(1).toByteArray(), QByteArray());
 }
 
 void SingleInstanceTest::AfterTheFirstTheNextMayRun() {

@@ -6,14 +6,12 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <limits>
-#include <sstream>
 
 #include "display/FormatResult.h"
 #include "engine/NumberText.h"
 #include "stats/JsonVectors.h"
+#include "stats/NistFiles.h"
 #include "stats/Regression.h"
 #include "stats/SummaryStatistics.h"
 #include "support/Vectors.h"
@@ -23,46 +21,10 @@ namespace {
 
 using test::Double;
 using test::ListOf;
+using test::OneVarRows;
 using test::Rows;
+using test::TwoVarRows;
 using test::UlpDistance;
-
-/// The lines of a data set's file behind its last heading, which is underlined in some files.
-std::vector<std::string> DataLines(const std::string& name) {
-  std::vector<std::string> lines;
-  std::ifstream file(VEXA_NIST "/" + name);
-  for (std::string line; std::getline(file, line);) {
-    if (line.starts_with("Data:")) {
-      lines.clear();
-    } else if (!line.starts_with("---") && !line.starts_with("#")) {
-      lines.push_back(line);
-    }
-  }
-  return lines;
-}
-
-std::vector<std::string> TextsOf(const std::string& line) {
-  std::istringstream stream(line);
-  return {std::istream_iterator<std::string>(stream), {}};
-}
-
-/// The rows of a data set of one variable, each counted once.
-Rows OneVarRows(const std::string& name) {
-  Rows rows;
-  for (const std::string& line : DataLines(name)) {
-    for (const std::string& text : TextsOf(line)) rows.push_back({text, "1"});
-  }
-  return rows;
-}
-
-/// The same of two variables; a file has Y before X.
-Rows TwoVarRows(const std::string& name) {
-  Rows rows;
-  for (const std::string& line : DataLines(name)) {
-    const auto texts = TextsOf(line);
-    if (texts.size() == 2) rows.push_back({texts[1], texts[0], "1"});
-  }
-  return rows;
-}
 
 Rows NistRows(const std::string& name, bool twoVar) {
   if (name == "PiDigits") return OneVarRows(name + ".txt");

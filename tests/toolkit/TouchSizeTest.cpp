@@ -86,7 +86,7 @@ void TouchSizeTest::ExpectRowsHighEnough(const QMenu* menu) const {
 
 void TouchSizeTest::MenuBarsAndMenus() {
   const auto* const bar = calculator->screen->findChild<QMenuBar*>();
-  QCOMPARE(bar->actions().size(), qsizetype{3});
+  QCOMPARE(bar->actions().size(), qsizetype{4});
   for (QAction* const action : bar->actions()) {
     QVERIFY2(bar->actionGeometry(action).height() >= kLeastTarget, qPrintable(action->text()));
     action->menu()->popup(QPoint(0, 0));
