@@ -24,8 +24,8 @@ class MemoryVariables {
   /// The number in slot `index`; 0 when its text is none, infinite when it is too large.
   double Value(int index) const;
   /// Puts the number in slot `index` into `text` as a formula can hold it: without separators and
-  /// blanks; "0" when there is no number. A number that is too large leaves `text` as it is, and the
-  /// sentence that says so is returned; empty: success.
+  /// blanks; "0" when there is no number. A number that is too large leaves `text` as it is, and
+  /// the sentence that says so is returned; empty: success.
   std::wstring FormulaText(int index, std::wstring& text) const;
   /// Slot `index` as the list shows it: Mem01 = 2.5
   std::wstring Line(int index) const;

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <utility>
 
@@ -31,6 +32,9 @@ void ListEditorDialog::BuildList(std::vector<QWidget*> editedFields) {
     Editor().Select(list->SelectedRow());
     Refresh();
   });
+  connect(list, &QListWidget::itemDoubleClicked, this, &ListEditorDialog::Edit);
+  ListKey(Qt::Key_F2, &ListEditorDialog::Edit);
+  ListKey(QKeySequence::Delete, &ListEditorDialog::Delete);
   QHBoxLayout* const row = AddButtonRow();
   newButton = AddButton(row, L"New", this, &ListEditorDialog::New);
   editButton = AddButton(row, L"Edit", this, &ListEditorDialog::Edit);
@@ -40,6 +44,12 @@ void ListEditorDialog::BuildList(std::vector<QWidget*> editedFields) {
   saveButton = AddButton(row, L"Save", this, &ListEditorDialog::Save);
   cancelButton = AddButton(row, L"Cancel", this, &ListEditorDialog::Cancel);
   ShowViewState();
+}
+
+void ListEditorDialog::ListKey(const QKeySequence& key, void (ListEditorDialog::*run)()) {
+  auto* const shortcut = new QShortcut(key, list);
+  shortcut->setContext(Qt::WidgetShortcut);
+  connect(shortcut, &QShortcut::activated, this, run);
 }
 
 void ListEditorDialog::ShowViewState() {

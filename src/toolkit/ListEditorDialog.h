@@ -42,6 +42,8 @@ class ListEditorDialog : public Dialog {
   virtual void RecallVariable() = 0;
 
  private:
+  /// `key` runs a command while the list has the focus.
+  void ListKey(const QKeySequence& key, void (ListEditorDialog::*run)());
   void New();
   void Edit();
   void Delete();

@@ -26,6 +26,7 @@ class MacroEditorDialogTest : public QObject {
   void NewClearsTheFields();
   void EditLoadsTheMacro();
   void EditNeedsASelection();
+  void KeysInTheListEditAndDelete();
   void CancelShowsTheEditedMacroAgain_data();
   void CancelShowsTheEditedMacroAgain();
   void EscapeAsksOnlyAfterAChange_data();
@@ -103,6 +104,28 @@ void MacroEditorDialogTest::EditNeedsASelection() {
   editor->Press("Delete");
   QVERIFY(!test::OpenBox());
   QCOMPARE(editor->list->count(), 3);
+}
+
+void MacroEditorDialogTest::KeysInTheListEditAndDelete() {
+  editor->Open();
+  QTest::keyClick(editor->list, Qt::Key_Down);
+  QTest::keyClick(editor->list, Qt::Key_F2);
+  editor->ExpectEditingState();
+  QVERIFY(editor->Fields() == kThreeMacros[1]);
+  QTest::keyClick(editor->name, Qt::Key_Escape);
+  editor->Tap(2);
+  QTest::mouseDClick(editor->list->viewport(), Qt::LeftButton, {},
+                     editor->list->visualItemRect(editor->list->item(2)).center());
+  editor->ExpectEditingState();
+  QVERIFY(editor->Fields() == kThreeMacros[2]);
+  // In a field the key deletes a character.
+  QTest::keyClick(editor->name, Qt::Key_Delete);
+  QVERIFY(!test::OpenBox());
+  editor->Press("Cancel");
+  QTest::keyClick(editor->list, Qt::Key_Delete);
+  QCOMPARE(ShownBox(), test::Question("Are you sure you want to delete the selected macro?"));
+  AnswerBox(QMessageBox::Yes);
+  QCOMPARE(editor->Lines(), QStringLiteral("twice(X) area(X,Y)"));
 }
 
 void MacroEditorDialogTest::CancelShowsTheEditedMacroAgain_data() {
