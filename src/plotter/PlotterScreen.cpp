@@ -120,7 +120,8 @@ QPushButton* PlotterScreen::NewListButton(QBoxLayout* row, const QString& captio
   auto* const button = new QPushButton(caption, this);
   button->setObjectName(caption);
   button->setAccessibleName(caption);
-  button->setAutoDefault(false);
+  // Return presses the button that has the focus; elsewhere it plots.
+  button->setAutoDefault(true);
   button->setFocusPolicy(Qt::TabFocus);
   button->setFixedWidth(kListButtonWidth);
   GrowToTouchHeight(button, kLeastListHeight);

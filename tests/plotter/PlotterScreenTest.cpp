@@ -50,6 +50,7 @@ class PlotterScreenTest : public QObject {
   void WhatIsTypedOnAButtonGoesToTheField();
   void PlotOpensTheGraph();
   void EnterPlots();
+  void ReturnPressesTheFocusedListButton();
   void PlotSaysThatABoxIsNoNumber();
   void PlotShowsTheFunctionThatFails();
   void MemoryGoesToTheBoxThatHadTheFocus();
@@ -418,6 +419,19 @@ void PlotterScreenTest::EnterPlots() {
     QTest::keyClick(view, Qt::Key_Escape);
     QTRY_VERIFY(!OpenWindow<GraphViewDialog>(screen.get()));
   }
+}
+
+void PlotterScreenTest::ReturnPressesTheFocusedListButton() {
+  SetField(QStringLiteral("x"));
+  Control("A")->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(Control("A"), Qt::Key_Return);
+  QVERIFY(!OpenWindow<GraphViewDialog>(screen.get()));
+  QCOMPARE(Functions(), QStringList(QStringLiteral("x")));
+  Control("D")->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(Control("D"), Qt::Key_Return);
+  QCOMPARE(Answer(screen.get(), QMessageBox::Yes), FromWide(kDeleteFunctionQuestion));
+  QCOMPARE(Functions(), QStringList());
+  QVERIFY(screen->findChild<QPushButton*>(QStringLiteral("Plot"))->isDefault());
 }
 
 void PlotterScreenTest::PlotSaysThatABoxIsNoNumber() {
