@@ -49,11 +49,12 @@ void ModeScreen::BuildModeMenu(Mode mode) {
   auto* const group = new QActionGroup(menu);
   for (const ModeName& entry : kModes) {
     const int code = static_cast<int>(entry.mode);
+    // The names begin with a character each, which chooses them.
+    const QString text = u'&' + FromWide(entry.name);
     // The own mode is not left.
     QAction* const action =
-        entry.mode == mode
-            ? menu->addAction(FromWide(entry.name), this, [this, code] { emit ModeChosen(code); })
-            : menu->addAction(FromWide(entry.name), this, [this, code] { LeaveFor(code); });
+        entry.mode == mode ? menu->addAction(text, this, [this, code] { emit ModeChosen(code); })
+                           : menu->addAction(text, this, [this, code] { LeaveFor(code); });
     action->setCheckable(true);
     action->setChecked(entry.mode == mode);
     group->addAction(action);

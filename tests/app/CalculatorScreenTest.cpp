@@ -668,6 +668,8 @@ void CalculatorScreenTest::MenusSayWhatWasChosen() {
     QAction* action = MenuAction(QStringLiteral("Mode"), QString::fromLatin1(names[code - 1]));
     QVERIFY(action);
     QCOMPARE(action->isChecked(), code == 1);
+    QCOMPARE(QKeySequence::mnemonic(action->text()),
+             QKeySequence(Qt::ALT | Qt::Key(names[code - 1][0])));
     action->trigger();
     QCOMPARE(modes.takeFirst().first().toInt(), code);
   }
