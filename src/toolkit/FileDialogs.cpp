@@ -2,9 +2,11 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QLineEdit>
+#include <QMimeDatabase>
 #include <QSortFilterProxyModel>
 #include <algorithm>
 #include <deque>
@@ -38,6 +40,22 @@ class WritableFiles : public QSortFilterProxyModel {
     return !files || files->isDir(index) || files->fileInfo(index).isWritable();
   }
 };
+
+/// Tells files by their names. The toolkit's own provider reads what is in each file of a folder,
+/// and there are files whose reading never ends, such as the system's log.
+class IconsByName : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  QIcon icon(const QFileInfo& file) const override { return icon(file.isDir() ? Folder : File); }
+  QString type(const QFileInfo& file) const override {
+    return QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).comment();
+  }
+};
+
+QFileIconProvider* Icons() {
+  static IconsByName icons;
+  return &icons;
+}
 
 /// Asks for a file to write.
 class SaveDialog : public QFileDialog {
@@ -90,6 +108,7 @@ void Open(QFileDialog* dialog, const QString& name, const QStringList& filters, 
   dialog->setObjectName(name);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setNameFilters(filters);
+  dialog->setIconProvider(Icons());
   // An empty name would show all drives.
   const QString& folder = LastFolder();
   if (!folder.isEmpty() && QDir(folder).exists()) dialog->setDirectory(folder);

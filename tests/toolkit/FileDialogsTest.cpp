@@ -4,6 +4,7 @@
 
 #include <unistd.h>
 
+#include <QAbstractFileIconProvider>
 #include <QAbstractItemView>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -44,6 +45,7 @@ class FileDialogsTest : public QObject {
   void AFolderIsEnteredAsItIs();
   void SaysWhatIsSavedAndProposesAName();
   void OpensInTheFolderUsedLast();
+  void FilesAreToldByTheirNames();
   void AnErrorNamesFileAndReason();
   void AsksBeforeReplacing();
   void CancelIsAnAnswer();
@@ -203,6 +205,22 @@ void FileDialogsTest::OpensInTheFolderUsedLast() {
   delete window->findChild<QFileDialog*>("SaveFile");
   QVERIFY(other.remove());
   QVERIFY(AskToSave()->directory().exists());
+}
+
+void FileDialogsTest::FilesAreToldByTheirNames() {
+  // Not by what is in them: reading some files of the system never ends.
+  QFile document(PutFile("document"));
+  QVERIFY(document.open(QIODevice::WriteOnly));
+  QVERIFY(document.write("%PDF-1.4\n") > 0);
+  document.close();
+  const QFileInfo written(document.fileName());
+  const QFileInfo empty(PutFile("empty"));
+  for (const QFileDialog* const dialog : {AskToOpen(), AskToSave()}) {
+    const QAbstractFileIconProvider* const icons = dialog->iconProvider();
+    QCOMPARE(icons->type(written), icons->type(empty));
+    QCOMPARE(icons->icon(written).cacheKey(), icons->icon(empty).cacheKey());
+    QVERIFY(icons->type(QFileInfo(dir->path())) != icons->type(empty));
+  }
 }
 
 void FileDialogsTest::AnErrorNamesFileAndReason() {
