@@ -18,9 +18,9 @@ namespace vexa {
 ///
 /// What is found is what stands in the file now and what was changed here since. A change is kept
 /// until Save has brought it into the file, beside what other programs have changed meanwhile; one
-/// that was removed meanwhile is written anew, whole. A file that cannot be read is renamed, never overwritten, and an empty one takes its place; where
-/// nothing can be written, values last as long as the object. The settings.ini of an earlier
-/// version is read once and renamed.
+/// that was removed meanwhile is written anew, whole. A file that cannot be read is renamed, never
+/// overwritten, and an empty one takes its place; where nothing can be written, values last as long
+/// as the object. The settings.ini of an earlier version is read once and renamed.
 class SettingsFile {
  public:
   /// Opens the file in `folder`, which is created; an empty name: nothing is ever written.
