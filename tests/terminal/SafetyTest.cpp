@@ -148,6 +148,21 @@ TEST_F(SafetyTest, FilesThatCannotBeUsed) {
             "vexa: " + (home / "none/graph.bmp").string() + ": No such file or directory\n");
 }
 
+TEST_F(SafetyTest, HeadingsAreNoRows) {
+  // An "e" alone would be read as a number's text.
+  const auto stats = [&](std::string_view input) {
+    return Run({"stats", "--tsv", "-"}, input).out;
+  };
+  EXPECT_EQ(stats("weight\n1\n2\n"), stats("1\n2\n"));
+  EXPECT_EQ(stats("height, number\n\n1.5, 3\n2.5, 4"), stats("1.5, 3\n2.5, 4\n"));
+  EXPECT_NE(stats("1\n2\n"), stats("1\n3\n"));
+  const auto fit = [&](std::string_view input) {
+    return Run({"regress", "linear", "--tsv", "-"}, input);
+  };
+  EXPECT_EQ(fit("height age\n1 2\n2 4\n").out, fit("1 2\n2 4\n").out);
+  EXPECT_EQ(fit("height age\n1 2\n2 4\n").status, 0);
+}
+
 TEST_F(SafetyTest, HugeTable) {
   EXPECT_EQ(Run({"table", "x", "--x", "0", "1", "--step", "1e-300"}).errors,
             "vexa: The table has more than 1000000 rows.\n");
