@@ -186,8 +186,9 @@ void GraphFileTest::AFullDiskLeavesTheOldFile() {
   QVERIFY(file.open(QIODevice::WriteOnly));
   QCOMPARE(file.write("old"), qint64{3});
   file.close();
-  const GraphModel graph = Example();
-  {
+  // Small pictures, too: these are written at once.
+  for (const test::GoldenGraph& golden : test::GoldenGraphs()) {
+    const GraphModel graph = golden.make();
     const test::FullDisk full(0);
     QVERIFY(!SaveGraph(graph, file.fileName()).isEmpty());
   }
