@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/CommandLine.h"
+#include "app/FontsAhead.h"
 #include "app/MainFrame.h"
 #include "app/ProgramGuide.h"
 #include "app/SettingsSaver.h"
@@ -79,6 +80,7 @@ int Application::Run(int argc, char** argv) {
   // A file that may not grow further is a write that fails, and no reason to die.
   signal(SIGXFSZ, SIG_IGN);
 
+  const FontsAhead fonts;
   EndWithoutDisplay refusing;
   QApplication application(argc, argv);
   refusing.Stop();
