@@ -173,6 +173,12 @@ void GraphViewDialog::ShrinkRows() {
   }
 }
 
+GraphViewDialog::~GraphViewDialog() {
+  // The window is hidden when this is no graph view any more, and the picture then says that the
+  // drag has ended.
+  disconnect(view, nullptr, this, nullptr);
+}
+
 void GraphViewDialog::BuildMenus() {
   auto* const menuBar = new QMenuBar(this);
   layout()->setMenuBar(menuBar);

@@ -23,6 +23,7 @@ class GraphViewDialog : public Dialog {
   /// Shows `shown`, functions or data points or both. Reads how numbers are written from
   /// `settingsStore`, which must outlive the dialog.
   GraphViewDialog(SettingsStore& settingsStore, GraphData shown, QWidget* parent);
+  ~GraphViewDialog() override;
 
   const GraphModel& Graph() const { return graph; }
 

@@ -58,8 +58,11 @@ class ListNumbers {
   bool Add(const PackedRows& rows, const ProgressWatcher& watcher);
   /// The sums, once they were added up.
   const ListSums& Sums() const { return *sums; }
-  /// The kept values of a column; none where they are not kept.
-  std::span<const double> Kept(std::size_t column) const { return values[column]; }
+  /// The kept values of a column; none where they are not kept, as those of the counts never are.
+  std::span<const double> Kept(std::size_t column) const {
+    return column < values.size() ? std::span<const double>(values[column])
+                                  : std::span<const double>();
+  }
 
   /// The numbers when the row that stands at order[i] comes to stand at i; none: `watcher` stopped
   /// it.
