@@ -22,8 +22,8 @@ using namespace vexa::bench;
 namespace {
 
 constexpr int kRuns = 21;
-constexpr double kTimeBound = 2.0;
-constexpr double kMemoryBound = 16.0;
+constexpr double kTimeBound = 1.25;
+constexpr double kMemoryBound = 5.0;
 
 /// A program under measurement.
 struct Program {
