@@ -1,5 +1,6 @@
 #include "files/SettingsFile.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "files/OldSettings.h"
@@ -20,12 +21,26 @@ std::wstring Reason(const std::error_code& error) {
   return DecodeUtf8(error.message()).value_or(L"error " + std::to_wstring(error.value()));
 }
 
+/// True for what a later attempt may not meet: then the file is as good as it was.
+bool IsPassing(const std::error_code& error) {
+  constexpr std::errc kPassing[] = {std::errc::io_error,
+                                    std::errc::too_many_files_open,
+                                    std::errc::not_enough_memory,
+                                    std::errc::too_many_files_open_in_system,
+                                    std::errc::timed_out,
+                                    std::errc::resource_unavailable_try_again,
+                                    std::errc::device_or_resource_busy};
+  return std::ranges::any_of(kPassing, [&](std::errc passing) { return error == passing; });
+}
+
 }  // namespace
 
 /// What stands in one of the files; no values: it is damaged.
 struct SettingsFile::Stored {
   std::filesystem::path source;
   std::optional<SettingsValues> values;
+  /// What kept the file from being read now, and says nothing about its content.
+  std::error_code hindrance{};
 };
 
 bool SettingsFile::Stamp::operator==(const Stamp& other) const {
@@ -66,6 +81,7 @@ SettingsFile::Stored SettingsFile::ReadStored() const {
     const bool isMissing =
         error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
     if (isMissing) continue;
+    if (IsPassing(error)) return {source, std::nullopt, error};
     return {source, error ? std::nullopt : parse(bytes)};
   }
   // A file that was removed meanwhile is written anew, whole.
@@ -84,6 +100,7 @@ std::error_code SettingsFile::Lock(FileLock& lock) const {
 std::error_code SettingsFile::TakeStored(const FileLock&, Stored& stored) {
   stored = ReadStored();
   if (stored.values) return {};
+  if (stored.hindrance) return stored.hindrance;
   std::filesystem::path kept;
   if (const auto error = MoveAside(stored.source, "damaged", kept)) return error;
   notices.push_back(L"The settings file could not be read. It is kept as " +

@@ -1,11 +1,13 @@
 #include "files/SettingsFile.h"
 
 #include <gtest/gtest.h>
+
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <fstream>
 
 #include "files/SettingsJson.h"
 #include "support/TemporaryFolder.h"
@@ -381,6 +383,24 @@ TEST_F(SettingsFileTest, ADamagedFileOfAnEarlierVersionIsKeptAsideToo) {
   EXPECT_TRUE(file.Save());
   EXPECT_EQ(Bytes(Name("settings.damaged-1.ini")), "[Config]\nMode\n");
   EXPECT_FALSE(fs::exists(Name("settings.imported-1.ini")));
+}
+
+// Reading the start of a process's memory is an input error, as of a disk that fails for a moment.
+TEST_F(SettingsFileTest, AFileThatCannotBeReadForAMomentIsNoDamage) {
+  fs::create_directory(temporary / "own");
+  fs::create_symlink("/proc/self/mem", Name());
+  SettingsFile file = Open();
+  EXPECT_TRUE(file.TakeNotices().empty());
+  file.Set(kMode, 3);
+  EXPECT_FALSE(file.Save());
+  EXPECT_TRUE(fs::is_symlink(Name()));
+  EXPECT_EQ(Integer(file, kMode), 3);
+  // Once it can be read, what it holds is kept beside what was changed.
+  fs::remove(Name());
+  std::ofstream(Name()) << R"({"Config":{"Precision":9}})";
+  EXPECT_TRUE(file.Save());
+  const SettingsValues expected{{kMode, 3}, {{L"Config", L"Precision"}, 9}};
+  EXPECT_EQ(Stored(), expected);
 }
 
 TEST_F(SettingsFileTest, AMillionKeysAreRefused) {
