@@ -18,7 +18,13 @@ class Collector : public nlohmann::json_sax<Json> {
   bool boolean(bool value) override { return Take(value ? L"true" : L"false"); }
   bool number_integer(std::int64_t value) override { return TakeInteger(value); }
   bool number_unsigned(std::uint64_t value) override { return TakeInteger(value); }
-  bool number_float(double, const std::string& text) override { return TakeText(text); }
+  bool number_float(double, const std::string& text) override {
+    // The reader hands the user's own decimal sign on in the place of the file's point.
+    std::string number = text;
+    const std::size_t sign = number.find_first_not_of("0123456789+-eE");
+    if (sign != number.npos) number[sign] = '.';
+    return TakeText(number);
+  }
   bool string(std::string& text) override { return TakeText(text); }
   bool binary(binary_t&) override { return false; }
   bool start_object(std::size_t) override { return ++depth <= 2; }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
+
 #include <cstdlib>
 #include <limits>
 #include <string>
@@ -87,9 +89,10 @@ TEST(DecimalNumber, ReadsWhatTheTextIsWorth) {
     for (const std::string& number : {digits, digits + ".", "." + digits, digits + "e3"}) {
       const std::wstring text(number.begin(), number.end());
       if (text.size() > 30) continue;
-      ExpectNumber(ReadDecimalNumber, text, text.size(), std::strtod(number.c_str(), nullptr));
-      ExpectNumber(ReadDecimalNumber, text + L"+1", text.size(),
-                   std::strtod(number.c_str(), nullptr));
+      double value = 0.0;
+      std::from_chars(number.data(), number.data() + number.size(), value);
+      ExpectNumber(ReadDecimalNumber, text, text.size(), value);
+      ExpectNumber(ReadDecimalNumber, text + L"+1", text.size(), value);
     }
   }
 }

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cfloat>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -81,10 +83,11 @@ TEST(SampleGraph, EdgePointsKnowHowFarBeyondTheCurveIs) {
       if (point.IsEmpty() || point.beyond == 0.0) continue;
       ++edges;
       GraphModel reader = graph;
-      reader.xBox = std::to_wstring(SampleX(i, -10, 10));
+      std::array<char, 32> digits{};
+      std::to_chars(digits.data(), digits.data() + digits.size(), SampleX(i, -10, 10));
+      reader.xBox = std::wstring(digits.begin(), std::ranges::find(digits, '\0'));
       reader.Cal();
       const double row = graph_mapping::ExactRow(*reader.ReadOuts()[0].value, graph.Ranges());
-      // The box holds six decimals.
       EXPECT_NEAR(point.row + point.beyond, row, 0.01) << i;
       EXPECT_EQ(point.row, point.beyond < 0 ? kTop : kBottom);
     }
