@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "Version.h"
 #include "terminal/Commands.h"
 #include "terminal/HelpText.h"
 
@@ -168,7 +169,7 @@ Request ReadCommandLine(std::vector<std::string> words) {
   if (first == "--help" || first == "-h" || (first == "help" && words.size() == 1)) {
     return {.text = Overview()};
   }
-  if (first == "--version") return {.text = "vexa " VEXA_VERSION "\n"};
+  if (first == "--version") return {.text = std::string("vexa ") + kVersion + "\n"};
   if (IsCommandGroup(first)) {
     const bool asksForHelp = words.size() > 1 && (words[1] == "--help" || words[1] == "-h");
     if (asksForHelp) return {.text = GroupOverview(first)};

@@ -1,5 +1,6 @@
 #include "terminal/ManPage.h"
 
+#include "Version.h"
 #include "terminal/Commands.h"
 #include "terminal/HelpText.h"
 
@@ -51,8 +52,8 @@ std::string Section(const Command& command) {
 }  // namespace
 
 std::string ManPage() {
-  std::string page = ".TH VEXA 1 \"\" \"Vexa Calculator " VEXA_VERSION "\"\n.SH NAME\n" +
-                     Escaped("vexa - an exact calculator") +
+  std::string page = std::string(".TH VEXA 1 \"\" \"Vexa Calculator ") + kVersion +
+                     "\"\n.SH NAME\n" + Escaped("vexa - an exact calculator") +
                      "\n.SH SYNOPSIS\n.B vexa\n.I EXPR...\n" +
                      ".br\n.B vexa\n.I COMMAND\n[OPTIONS] ...\n.SH DESCRIPTION\n" +
                      Escaped(kDescription) + "\n.SH COMMANDS\n";
